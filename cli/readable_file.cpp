@@ -1,0 +1,14 @@
+#include "readable_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+QString readable_file::fault_of(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) return QStringLiteral("%1: file not found").arg(path);
+    if (info.isDir()) return QStringLiteral("%1: is a directory").arg(path);
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly)) return {};
+    return QStringLiteral("%1: %2").arg(path, file.errorString());
+}
