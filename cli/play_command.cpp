@@ -9,6 +9,7 @@
 #include "run_summary.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
 
@@ -31,14 +32,27 @@ static qint64 expected_coups(const play_request& request, const setting& setting
     return sum;
 }
 
+static QString write_fault(const QString& path, const QFileDevice& file)
+{
+    return QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+}
+
+static bool write_all(QFileDevice& file, const QByteArray& text)
+{
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush();
+}
+
+/// A file is replaced as a whole; a device or pipe is written to, never replaced.
 static QString write_summary(const QString& path, const headless_game& game)
 {
-    QSaveFile file(path);
     const QByteArray text = QJsonDocument(run_summary::to_json(game)).toJson();
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    return written ? QString()
-                   : QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile()) {
+        QFile device(path);
+        return write_all(device, text) ? QString() : write_fault(path, device);
+    }
+    QSaveFile file(path);
+    return write_all(file, text) && file.commit() ? QString() : write_fault(path, file);
 }
 
 /// "FILE:LINE: error: TEXT" for every system that ended with one. Returns whether there was any.
