@@ -25,6 +25,12 @@ bool coup_cycle::is_stopped() const
     return settings.state() == game_state::stopped;
 }
 
+/// True when the game was stopped meanwhile, also when it has been started again since.
+bool coup_cycle::was_stopped_since(unsigned earlier_stops) const
+{
+    return is_stopped() || stops != earlier_stops;
+}
+
 void coup_cycle::open_bets()
 {
     coup_running = false;
@@ -49,27 +55,30 @@ void coup_cycle::close_bets()
     coup_due = false;
     table.set_may_set_for_all(false);
 
+    const unsigned earlier_stops = stops;
     const int drawn = draw_number();
-    if (is_stopped()) return;
+    if (was_stopped_since(earlier_stops)) return;
     if (drawn == number_code::no_number) {
         open_bets();
         return;
     }
     active_number = drawn;
     host.bets_closed(table.close_bets());
+    throw_open = true;
     host.start_throw(drawn);
 }
 
 /// Draws until a number comes that can be thrown; hand changes on the way are stored and told.
 int coup_cycle::draw_number()
 {
+    const unsigned earlier_stops = stops;
     int drawn = numbers.next_number();
-    while (drawn == number_code::hand_change && !is_stopped()) {
+    while (drawn == number_code::hand_change && !was_stopped_since(earlier_stops)) {
         active_number = drawn;
         numbers.add_to_permanence(drawn);
         host.number_stored(drawn);
         host.hand_change_thrown();
-        if (is_stopped()) break;
+        if (was_stopped_since(earlier_stops)) break;
         drawn = numbers.next_number();
     }
     return drawn;
@@ -77,8 +86,8 @@ int coup_cycle::draw_number()
 
 void coup_cycle::throw_finished()
 {
-    if (!coup_running || evaluation_open || is_stopped()) return;
-    if (!number_code::is_number(active_number)) return;
+    if (!throw_open || is_stopped()) return;
+    throw_open = false;
     numbers.add_to_permanence(active_number);
     host.number_stored(active_number);
 
@@ -91,10 +100,11 @@ void coup_cycle::throw_finished()
 void coup_cycle::score_counted(player_names player, qint64 score)
 {
     if (!evaluation_open) return;
+    const bool is_last = ++collect_count == player_count;
+    if (is_last) evaluation_open = false;
+    const unsigned earlier_stops = stops;
     host.score_entered(player, score);
-    if (++collect_count < player_count) return;
-    evaluation_open = false;
-    finish_coup();
+    if (is_last && !was_stopped_since(earlier_stops)) finish_coup();
 }
 
 void coup_cycle::finish_coup()
@@ -102,8 +112,9 @@ void coup_cycle::finish_coup()
     const table_rules rules = rules_of(settings);
     table.clear_won_jetons(rules);
     table.set_back_jetons(rules);
+    const unsigned earlier_stops = stops;
     host.check_system_borders();
-    if (is_stopped()) return;
+    if (was_stopped_since(earlier_stops)) return;
     table.checks_replay();
     play_systems();
 }
@@ -144,8 +155,10 @@ bool coup_cycle::pause_ended()
 
 void coup_cycle::stop()
 {
+    ++stops;
     coup_running = false;
     coup_due = false;
+    throw_open = false;
     evaluation_open = false;
     collect_count = 0;
     open_system_rounds = -1;

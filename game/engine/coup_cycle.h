@@ -104,6 +104,7 @@ public:
 private:
     int draw_number();
     bool is_stopped() const;
+    bool was_stopped_since(unsigned earlier_stops) const;
     void finish_coup();
     void play_systems();
 
@@ -114,11 +115,13 @@ private:
 
     bool coup_running = false;    // a number is drawn and the next bets are not open yet
     bool coup_due = false;        // the bets ran out in pause
+    bool throw_open = false;      // the ball is on its way
     bool evaluation_open = false; // scores are being counted
     int collect_count = 0;        // players whose score is counted
     int active_number = -1;
     int open_system_rounds = -1;
     player_flags round_open{};
+    unsigned stops = 0; // counted, so that a step notices a stop in the middle of it
 };
 
 #endif // COUP_CYCLE_H

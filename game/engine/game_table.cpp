@@ -329,14 +329,16 @@ void game_table::prison_update(std::size_t i, const number_hit_property& propert
     prison.in_double_prison = 0;
 }
 
-/// With replay and the winning jeton left on its place, the repeated bet joins it.
+/// With replay and the winning jeton left on its place, the repeated bet joins it; pieces that
+/// do not fit are not repeated, so they are not paid for either.
 void game_table::repeat_hit_stakes(std::size_t i, const place_set& hits)
 {
     hits.for_each([&](int place) {
         if (!last_bet[i].lies(place)) return;
-        jeton_stack& stack = jeton_table[i].at(place);
-        const qint64 sum = static_cast<qint64>(stack.count) + last_bet[i].at(place).count;
-        stack.count = static_cast<int>(std::min<qint64>(sum, std::numeric_limits<int>::max()));
+        int& count = jeton_table[i].at(place).count;
+        int& repeated = last_bet[i].at(place).count;
+        repeated = std::min(repeated, std::numeric_limits<int>::max() - count);
+        count += repeated;
     });
 }
 

@@ -71,8 +71,8 @@ public:
  * evaluation, of prison and of replay. A plain value that needs no window and no settings
  * object; not thread-safe.
  *
- * Every function keeps credit + seeded + what is in prison of a player as it is, but for
- * `evaluate()`, `add_credit()`, `set_credit()` and `stop()`.
+ * Every function keeps credit + seeded + what is in prison or released of a player as it is, but
+ * for `evaluate()` with `clear_won_jetons()`, and for `add_credit()`, `set_credit()` and `stop()`.
  */
 class game_table
 {

@@ -17,8 +17,9 @@ static quint32 seconds_now()
 /// Fills up with empty texts; so there always is a first file to look at and to take away.
 static void fill_file_places(QStringList& files)
 {
-    while (files.size() < general_loadfile::file_place_count)
+    while (files.size() < general_loadfile::file_place_count) {
         files.append(QString());
+    }
 }
 
 static int last_number_of(table_form form)

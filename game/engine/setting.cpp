@@ -10,7 +10,7 @@
 
 // What stands for a value out of its range.
 
-static int whole_second_or_none(int value)
+static int seconds_or_none(int value)
 {
     return value < 1000 ? 0 : value;
 }
@@ -20,7 +20,7 @@ static int zero_or_one(int value)
     return value == 1 ? 1 : 0;
 }
 
-static int zero_or_one_for_all_else(int value)
+static int zero_or_else_one(int value)
 {
     return value == 0 ? 0 : 1;
 }
@@ -64,6 +64,8 @@ using value_place = std::variant<int setting_values::*,
                                  QString setting_values::*,
                                  QDate setting_values::*>;
 
+using member = setting_values; // short, for the table below
+
 /// A key of the settings file.
 struct setting_row {
     const char* key;
@@ -73,44 +75,44 @@ struct setting_row {
 
 // clang-format off
 const setting_row setting_rows[] = {
-    {"s_balkenzeit",                    &setting_values::s_balkenzeit,                    whole_second_or_none},
-    {"s_language",                      &setting_values::s_language,                      known_language},
-    {"s_language_term",                 &setting_values::s_language_term,                 zero_or_one_for_all_else},
-    {"s_start_jetons",                  &setting_values::s_start_jetons,                  at_least_zero},
-    {"s_setzart",                       &setting_values::s_setzart,                       zero_or_one},
-    {"s_setzart_real_size",             &setting_values::s_setzart_real_size,             known_piece_size},
-    {"s_wheel_disabled",                &setting_values::s_wheel_disabled},
-    {"s_su_shortthrow_activ",           &setting_values::s_su_shortthrow_activ},
-    {"s_jeton_to_win",                  &setting_values::s_jeton_to_win},
-    {"s_tip_def_index",                 &setting_values::s_tip_def_index,                 index_up_to<2>},
-    {"s_table_form",                    &setting_values::s_table_form,                    zero_or_one},
-    {"s_pr_color",                      &setting_values::s_pr_color},
-    {"s_pr_landscape",                  &setting_values::s_pr_landscape},
-    {"s_hand_change_sign_index",        &setting_values::s_hand_change_sign_index,        index_up_to<5>},
-    {"s_scr_res_factor",                &setting_values::s_scr_res_factor,                scale_step},
-    {"s_year_statistic",                &setting_values::s_year_statistic},
-    {"s_use_history_text_files",        &setting_values::s_use_history_text_files},
-    {"s_use_history_throws_startup",    &setting_values::s_use_history_throws_startup},
-    {"s_load_history_stat_type_index",  &setting_values::s_load_history_stat_type_index,  index_up_to<3>},
-    {"s_history_days_count",            &setting_values::s_history_days_count},
-    {"s_history_year_index",            &setting_values::s_history_year_index},
-    {"s_history_fix_date",              &setting_values::s_history_fix_date},
-    {"s_add_lofil_throw_to_year_stat",  &setting_values::s_add_lofil_throw_to_year_stat},
-    {"s_single_color_timebar",          &setting_values::s_single_color_timebar},
-    {"s_editor_font",                   &setting_values::s_editor_font},
-    {"s_editor_font_size",              &setting_values::s_editor_font_size},
-    {"s_user_sys_file_1",               &setting_values::s_user_sys_file_1},
-    {"s_user_sys_file_2",               &setting_values::s_user_sys_file_2},
-    {"s_user_sys_file_3",               &setting_values::s_user_sys_file_3},
-    {"s_user_sys_file_4",               &setting_values::s_user_sys_file_4},
-    {"s_user_out_file_1",               &setting_values::s_user_out_file_1},
-    {"s_user_out_file_2",               &setting_values::s_user_out_file_2},
-    {"s_user_out_file_3",               &setting_values::s_user_out_file_3},
-    {"s_user_out_file_4",               &setting_values::s_user_out_file_4},
-    {"s_zero_handling",                 &setting_values::s_zero_handling},
-    {"s_auto_update_check",             &setting_values::s_auto_update_check},
-    {"s_classic_dolly",                 &setting_values::s_classic_dolly},
-    {"s_activation_coldhot_display",    &setting_values::s_activation_coldhot_display},
+    {"s_balkenzeit",                   &member::s_balkenzeit,                   seconds_or_none},
+    {"s_language",                     &member::s_language,                     known_language},
+    {"s_language_term",                &member::s_language_term,                zero_or_else_one},
+    {"s_start_jetons",                 &member::s_start_jetons,                 at_least_zero},
+    {"s_setzart",                      &member::s_setzart,                      zero_or_one},
+    {"s_setzart_real_size",            &member::s_setzart_real_size,            known_piece_size},
+    {"s_wheel_disabled",               &member::s_wheel_disabled},
+    {"s_su_shortthrow_activ",          &member::s_su_shortthrow_activ},
+    {"s_jeton_to_win",                 &member::s_jeton_to_win},
+    {"s_tip_def_index",                &member::s_tip_def_index,                index_up_to<2>},
+    {"s_table_form",                   &member::s_table_form,                   zero_or_one},
+    {"s_pr_color",                     &member::s_pr_color},
+    {"s_pr_landscape",                 &member::s_pr_landscape},
+    {"s_hand_change_sign_index",       &member::s_hand_change_sign_index,       index_up_to<5>},
+    {"s_scr_res_factor",               &member::s_scr_res_factor,               scale_step},
+    {"s_year_statistic",               &member::s_year_statistic},
+    {"s_use_history_text_files",       &member::s_use_history_text_files},
+    {"s_use_history_throws_startup",   &member::s_use_history_throws_startup},
+    {"s_load_history_stat_type_index", &member::s_load_history_stat_type_index, index_up_to<3>},
+    {"s_history_days_count",           &member::s_history_days_count},
+    {"s_history_year_index",           &member::s_history_year_index},
+    {"s_history_fix_date",             &member::s_history_fix_date},
+    {"s_add_lofil_throw_to_year_stat", &member::s_add_lofil_throw_to_year_stat},
+    {"s_single_color_timebar",         &member::s_single_color_timebar},
+    {"s_editor_font",                  &member::s_editor_font},
+    {"s_editor_font_size",             &member::s_editor_font_size},
+    {"s_user_sys_file_1",              &member::s_user_sys_file_1},
+    {"s_user_sys_file_2",              &member::s_user_sys_file_2},
+    {"s_user_sys_file_3",              &member::s_user_sys_file_3},
+    {"s_user_sys_file_4",              &member::s_user_sys_file_4},
+    {"s_user_out_file_1",              &member::s_user_out_file_1},
+    {"s_user_out_file_2",              &member::s_user_out_file_2},
+    {"s_user_out_file_3",              &member::s_user_out_file_3},
+    {"s_user_out_file_4",              &member::s_user_out_file_4},
+    {"s_zero_handling",                &member::s_zero_handling},
+    {"s_auto_update_check",            &member::s_auto_update_check},
+    {"s_classic_dolly",                &member::s_classic_dolly},
+    {"s_activation_coldhot_display",   &member::s_activation_coldhot_display},
 };
 // clang-format on
 
