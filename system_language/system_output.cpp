@@ -10,35 +10,73 @@
 
 static constexpr int number_width = 3;
 static constexpr int figure_width = 12;
-static constexpr int table_width  = number_width + 3 * figure_width;
-static constexpr int block_size   = 1 << 16; // bytes that are written at once
-static constexpr char fill        = ' ';
+static constexpr int table_width = number_width + 3 * figure_width;
+static constexpr int block_size = 1 << 16; // bytes that are written at once
+static constexpr char fill = ' ';
 
-/// Appends a text at the right of a column; a longer one pushes what follows to the right.
-static void append_right(QByteArray& line, const char* text, int length, int width)
+namespace
 {
-    if (length < width) line.append(width - length, fill);
-    line.append(text, length);
-}
+
+/// A line of the table, put together in place: the figures of a coup are on the path of every
+/// coup. A column is as wide as told, or as its text where that is longer.
+class table_line
+{
+public:
+    void append(const char* text, int length, int width)
+    {
+        for (; width > length; --width)
+            *end++ = fill;
+        std::memcpy(end, text, static_cast<std::size_t>(length));
+        end += length;
+    }
+
+    void append_figure(qint64 figure)
+    {
+        if (figure <= -narrow_limit || figure >= narrow_limit) {
+            append_wide_figure(figure);
+            return;
+        }
+        std::memset(end, fill, figure_width);
+        end += figure_width;
+        char* place = end;
+        auto rest = static_cast<quint64>(figure < 0 ? -figure : figure);
+        for (; rest >= 10; rest /= 10)
+            *--place = static_cast<char>('0' + rest % 10);
+        *--place = static_cast<char>('0' + rest);
+        if (figure < 0) *--place = '-';
+    }
+
+    void append_number(int number, bool is_manual)
+    {
+        *end++ = is_manual ? '*' : fill;
+        *end++ = static_cast<char>('0' + number / 10);
+        *end++ = static_cast<char>('0' + number % 10);
+    }
+
+    const char* data() const { return characters.data(); }
+    int length() const { return static_cast<int>(end - characters.data()); }
+
+private:
+    void append_wide_figure(qint64 figure)
+    {
+        std::array<char, longest_figure> digits;
+        const auto last = std::to_chars(digits.data(), digits.data() + digits.size(), figure).ptr;
+        append(digits.data(), static_cast<int>(last - digits.data()), figure_width);
+    }
+
+    static constexpr qint64 narrow_limit = 100'000'000'000; // 11 digits and a sign fit a column
+    static constexpr int longest_figure = 20;               // digits and sign of a qint64
+    static constexpr int line_end = 3;                      // two blanks and the end of the line
+
+    std::array<char, number_width + 3 * longest_figure + line_end> characters;
+    char* end = characters.data();
+};
+
+} // namespace
 
 static void append_right(QByteArray& line, const char* text, int width)
 {
-    append_right(line, text, static_cast<int>(std::strlen(text)), width);
-}
-
-static void append_figure(QByteArray& line, qint64 figure)
-{
-    std::array<char, 24> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), figure).ptr;
-    append_right(line, digits.data(), static_cast<int>(end - digits.data()), figure_width);
-}
-
-static void append_number(QByteArray& line, int number, bool is_manual)
-{
-    const std::array<char, 3> text = {is_manual ? '*' : fill,
-                                      static_cast<char>('0' + number / 10),
-                                      static_cast<char>('0' + number % 10)};
-    line.append(text.data(), static_cast<int>(text.size()));
+    line.append(QByteArray(text).rightJustified(width, fill));
 }
 
 system_output::system_output(const numberStorage& number_source,
@@ -63,8 +101,8 @@ bool system_output::open()
 {
     file.setFileName(settings.s_user_out_file(player));
     const bool was_there = file.exists();
-    write_failed = !file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text
-                              | QIODevice::Unbuffered);
+    write_failed = !file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text |
+                              QIODevice::Unbuffered);
     if (write_failed) return false;
     buffer.reserve(block_size + block_size / 4);
     if (was_there) end_line();
@@ -90,16 +128,24 @@ void system_output::write_header()
 void system_output::write_coup_line(const player_status& status)
 {
     if (!file.isOpen() || status.coups == counted_coups) return;
-    counted_coups                     = status.coups;
+    counted_coups = status.coups;
     const std::vector<quint8>& thrown = numbers.history().thrown();
     if (thrown.empty()) return;
     write_load_file_marks();
-    append_number(buffer, thrown.back(), manual_number);
+    table_line line;
+    line.append_number(thrown.back(), manual_number);
     manual_number = false;
-    append_figure(buffer, status.last_score - status.last_seeded);
-    append_figure(buffer, status.last_seeded);
-    append_figure(buffer, status.last_credit);
-    buffer.append("  ", 2);
+    line.append_figure(status.last_score - status.last_seeded);
+    line.append_figure(status.last_seeded);
+    line.append_figure(status.last_credit);
+    line.append("  ", 2, 2);
+    if (comment.isEmpty()) {
+        line.append("\n", 1, 1);
+        buffer.append(line.data(), line.length());
+        flush_when_due();
+        return;
+    }
+    buffer.append(line.data(), line.length());
     buffer.append(comment);
     end_line();
 }
@@ -108,13 +154,14 @@ void system_output::write_coup_line(const player_status& status)
 void system_output::write_load_file_marks()
 {
     const QString& name = numbers.get_load_file_name();
-    if (name == last_load_file) {
+    const bool is_same = name.constData() == last_load_file.constData() || name == last_load_file;
+    if (is_same) {
         if (!comment.isEmpty()) comment.clear();
         return;
     }
     if (!last_load_file.isEmpty()) write_end_mark();
     last_load_file = name;
-    comment        = name.toUtf8();
+    comment = name.toUtf8();
     if (name.isEmpty()) return;
     const QString& description = numbers.load_settings().description;
     if (!description.isEmpty()) write_remark(description.toUtf8());
@@ -136,6 +183,11 @@ void system_output::write_remark(const QByteArray& remark)
 void system_output::end_line()
 {
     buffer.append('\n');
+    flush_when_due();
+}
+
+void system_output::flush_when_due()
+{
     if (flushing == protocol_flushing::line_by_line || buffer.size() >= block_size) flush();
 }
 

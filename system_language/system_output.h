@@ -60,6 +60,7 @@ private:
     void write_end_mark();
     void write_remark(const QByteArray& remark);
     void end_line();
+    void flush_when_due();
 
     const numberStorage& numbers;
     const setting& settings;

@@ -95,6 +95,7 @@ void tst_runner_program::wrong_use_is_told_with_status_2_data()
     QTest::newRow("missing numbers")     << red + QStringList{"--numbers", "no.inp"}             << "no.inp: file not found";
     QTest::newRow("folder as numbers")   << red + QStringList{"--numbers", "."}                  << ".: is a directory";
     QTest::newRow("folder as system")    << QStringList{"play", "--system", ".", "--random", "5"} << ".: is a directory";
+    QTest::newRow("device as numbers")   << red + QStringList{"--numbers", "/dev/null"}           << "/dev/null: is no regular file";
     QTest::newRow("player 5")            << QStringList{"play", "--system", "5:red.syf", "--random", "5"} << "1 to 4";
     QTest::newRow("player twice")        << red + QStringList{"--system", "1:red.syf", "--random", "5"}   << "twice for player 1";
     QTest::newRow("protocol for nobody") << red + QStringList{"--protocol", "2:run.out", "--random", "5"} << "player 2, who has no --system";
