@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 
 using general_player::player_count;
-using general_player::player_names;
 
 static constexpr qint64 coups_between_progress = 1 << 15;
 

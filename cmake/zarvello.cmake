@@ -33,6 +33,9 @@ function(zarvello_compile_options target)
     endif()
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang") # Qt's logging macros are called without arguments
+        target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
+    endif()
     if(ZARVELLO_FUZZ)
         target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
     endif()

@@ -23,7 +23,7 @@ letter_pairs::letter_pairs(QStringView text)
             return;
         }
         if (previous != no_letter && letter != no_letter)
-            pairs.set(size_t(previous * letter_count + letter));
+            pairs.set(place_of(previous, letter));
         previous = letter;
     }
 }

@@ -23,7 +23,12 @@ private:
 
     static int letter_index(QChar character);
 
-    std::bitset<letter_count * letter_count> pairs; // [first * letter_count + second]
+    static size_t place_of(int first, int second)
+    {
+        return static_cast<size_t>(first) * letter_count + static_cast<size_t>(second);
+    }
+
+    std::bitset<size_t(letter_count) * letter_count> pairs; // by place_of()
 };
 
 #endif // LETTER_PAIRS_H

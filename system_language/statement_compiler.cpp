@@ -324,7 +324,7 @@ statement_compiler::statement_compiler(const system_pattern& patterns)
 {
 }
 
-void statement_compiler::compile_statement(sys_result_info& result, QString text) const
+void statement_compiler::compile_statement(sys_result_info& result, const QString& text) const
 {
     statement_scan(taker, text, result).compile();
 }

@@ -23,7 +23,7 @@ public:
     /// statement from the fault on, or a single token. `command_text` is then of no use.
     /// The remaining fields stay as they are. The length of a chain of tests is not limited. The
     /// text comes by value: it may well be a field of the result.
-    void compile_statement(sys_result_info& result, QString text) const;
+    void compile_statement(sys_result_info& result, const QString& text) const;
 
 private:
     token_taker taker;

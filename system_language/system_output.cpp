@@ -127,10 +127,11 @@ void system_output::write_header()
 
 void system_output::write_coup_line(const player_status& status)
 {
-    if (!file.isOpen() || status.coups == counted_coups) return;
+    if (!file.isOpen()) return;
+    const bool is_new_coup = status.coups > counted_coups; // fewer: the statistic was emptied
     counted_coups = status.coups;
     const std::vector<quint8>& thrown = numbers.history().thrown();
-    if (thrown.empty()) return;
+    if (!is_new_coup || thrown.empty()) return;
     write_load_file_marks();
     table_line line;
     line.append_number(thrown.back(), manual_number);

@@ -73,13 +73,9 @@ void system_play::play_round()
 /// Chooses the sections of this round and runs them.
 section_outcome system_play::play_due_sections()
 {
-    section_outcome outcome;
-    if (ignore_counter == 0) {
-        ignore_counter = -1;
-        outcome        = play_start_round();
-    } else {
-        outcome = play_running_round();
-    }
+    const bool start_is_due = ignore_counter == 0;
+    if (start_is_due) ignore_counter = -1;
+    const section_outcome outcome = start_is_due ? play_start_round() : play_running_round();
     count_round();
     command_line.end_of_round();
     return outcome;

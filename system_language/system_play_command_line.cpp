@@ -2,19 +2,6 @@
 
 #include "language_fault.h"
 
-namespace
-{
-
-/// One call operator per alternative of a variant.
-template <typename... handlers>
-struct overloaded : handlers... {
-    using handlers::operator()...;
-};
-template <typename... handlers>
-overloaded(handlers...) -> overloaded<handlers...>;
-
-} // namespace
-
 system_play_command_line::language_state::language_state(const play_environment& environment,
                                                          general_player::player_names player,
                                                          play_listener*& listener,
@@ -85,36 +72,87 @@ void system_play_command_line::run_command(sys_result_info& result,
     }
 }
 
+/// Runs a test: one call operator per kind of test.
+struct system_play_command_line::test_runner {
+    language_state& state;
+    sys_result_info& result;
+
+    void operator()(const throw_test& test)
+    {
+        state.throw_compare.check_throw(result, test.thrown, test.target);
+        invert(test.is_inverted);
+    }
+    void operator()(const argument_test& test)
+    {
+        state.arguments.check(result, test.thrown, test.number);
+        invert(test.is_inverted);
+    }
+    void operator()(const count_test& test) { state.throw_compare.count_check(result, test); }
+    void operator()(const signal_test& test) { state.signal_compare.signal_check(result, test); }
+    void operator()(const counter_test& test) { result.check_result = state.counters.check(test); }
+    void operator()(const table_test& test) { state.tables.check(result, test); }
+    void operator()(const faulty_step& fault)
+    {
+        set_fault(result, fault.error_text, fault.mark_text);
+    }
+
+    void invert(bool is_inverted)
+    {
+        if (is_inverted && result.status == system_status::all_right) {
+            result.check_result = !result.check_result;
+        }
+    }
+};
+
 /// The evaluation stops at the first test that fails; a failed test is no error.
 bool system_play_command_line::all_tests_hold(sys_result_info& result,
                                               const statement_program& program)
 {
-    const auto invert = [&](bool is_inverted) {
-        if (is_inverted && result.status == system_status::all_right) {
-            result.check_result = !result.check_result;
-        }
-    };
-    const overloaded run_test = {
-        [&](const throw_test& test) {
-            state->throw_compare.check_throw(result, test.thrown, test.target);
-            invert(test.is_inverted);
-        },
-        [&](const argument_test& test) {
-            state->arguments.check(result, test.thrown, test.number);
-            invert(test.is_inverted);
-        },
-        [&](const count_test& test) { state->throw_compare.count_check(result, test); },
-        [&](const signal_test& test) { state->signal_compare.signal_check(result, test); },
-        [&](const counter_test& test) { result.check_result = state->counters.check(test); },
-        [&](const table_test& test) { state->tables.check(result, test); },
-        [&](const faulty_step& fault) { set_fault(result, fault.error_text, fault.mark_text); },
-    };
+    test_runner runner{*state, result};
     for (const test_step& test : program.tests) {
-        std::visit(run_test, test);
+        std::visit(runner, test);
         if (result.status != system_status::all_right || !result.check_result) return false;
     }
     return true;
 }
+
+/// Runs an action: one call operator per kind of action. Each returns the step that follows.
+struct system_play_command_line::step_runner {
+    language_state& state;
+    sys_result_info& result;
+    const statement_program& program;
+    bool start_section;
+    int next;
+
+    int operator()(const bet_target& target)
+    {
+        state.cheton.set(result, target);
+        return next;
+    }
+    int operator()(const counter_action& action)
+    {
+        state.counters.set(action);
+        return next;
+    }
+    int operator()(const playtable_action& action)
+    {
+        state.playtables.action(result, action);
+        return next;
+    }
+    int operator()(const options_action& action)
+    {
+        state.settings.read_options(result, action.token);
+        return next;
+    }
+    int operator()(const unknown_action& action)
+    {
+        qCDebug(language_log) << "Not implemented sz action: " << action.token;
+        return next;
+    }
+    int operator()(const bounded_unit_action& action);
+    int operator()(const signal_action& action);
+    int operator()(const fill_action& action);
+};
 
 void system_play_command_line::run_steps(sys_result_info& result,
                                          const statement_program& program,
@@ -123,40 +161,13 @@ void system_play_command_line::run_steps(sys_result_info& result,
     const auto count = static_cast<int>(program.steps.size());
     for (int position = 0; position < count;) {
         const set_step& step = program.steps[static_cast<std::size_t>(position)];
-        position = run_step(result, program, step, start_section);
+        step_runner runner{*state, result, program, start_section, step.next};
+        position = std::visit(runner, step.action);
         if (result.status != system_status::all_right) return;
     }
 }
 
-/// Runs one action; returns the step that follows.
-int system_play_command_line::run_step(sys_result_info& result,
-                                       const statement_program& program,
-                                       const set_step& step,
-                                       bool start_section)
-{
-    int next = step.next;
-    std::visit(
-        overloaded{
-            [&](const bet_target& target) { state->cheton.set(result, target); },
-            [&](const bounded_unit_action& unit) { next = run_unit(result, unit, next); },
-            [&](const counter_action& action) { state->counters.set(action); },
-            [&](const playtable_action& action) { state->playtables.action(result, action); },
-            [&](const signal_action& action) { run_signal(result, program, action); },
-            [&](const options_action& action) {
-                state->settings.read_options(result, action.token);
-            },
-            [&](const fill_action& action) { run_fill(result, action, start_section); },
-            [&](const unknown_action& action) {
-                qCDebug(language_log) << "Not implemented sz action: " << action.token;
-            },
-        },
-        step.action);
-    return next;
-}
-
-int system_play_command_line::run_unit(sys_result_info& result,
-                                       const bounded_unit_action& action,
-                                       int next)
+int system_play_command_line::step_runner::operator()(const bounded_unit_action& action)
 {
     if (action.bound != unit_bound::none && action.limit < 1) {
         const bool is_maximum = action.bound == unit_bound::maximum;
@@ -168,35 +179,33 @@ int system_play_command_line::run_unit(sys_result_info& result,
         set_fault(result, text, action.limit_token);
         return next;
     }
-    state->units.set(result, action.unit, action.bound, action.limit);
+    state.units.set(result, action.unit, action.bound, action.limit);
     if (result.status != system_status::bound_reached) return next;
     result.status = system_status::all_right;
     return action.next_when_touched;
 }
 
-void system_play_command_line::run_signal(sys_result_info& result,
-                                          const statement_program& program,
-                                          const signal_action& action)
+int system_play_command_line::step_runner::operator()(const signal_action& action)
 {
     const auto& test = std::get<signal_test>(program.tests[static_cast<std::size_t>(action.test)]);
     if (test.target == signal_test::target_kind::counter) {
-        state->counters.set({counter_action::kind::assign, test.counter, result.value});
-        return;
+        state.counters.set({counter_action::kind::assign, test.counter, result.value});
+    } else {
+        state.cheton.set(result, test.jetons[static_cast<std::size_t>(result.value)]);
     }
-    state->cheton.set(result, test.jetons[static_cast<std::size_t>(result.value)]);
+    return next;
 }
 
-void system_play_command_line::run_fill(sys_result_info& result,
-                                        const fill_action& action,
-                                        bool start_section)
+int system_play_command_line::step_runner::operator()(const fill_action& action)
 {
     if (start_section) {
-        state->tables.fill(result, action.token);
-        return;
+        state.tables.fill(result, action.token);
+    } else {
+        set_fault(result,
+                  tr("Eine Steigerungstabellen Belegung ist nur in der Start Sektion erlaubt!"),
+                  action.token,
+                  system_status::error,
+                  system_status::mark_line);
     }
-    set_fault(result,
-              tr("Eine Steigerungstabellen Belegung ist nur in der Start Sektion erlaubt!"),
-              action.token,
-              system_status::error,
-              system_status::mark_line);
+    return next;
 }

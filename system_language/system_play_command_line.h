@@ -56,18 +56,11 @@ private:
         system_play_message message;
     };
 
+    struct test_runner;
+    struct step_runner;
+
     bool all_tests_hold(sys_result_info& result, const statement_program& program);
     void run_steps(sys_result_info& result, const statement_program& program, bool start_section);
-    int run_step(sys_result_info& result,
-                 const statement_program& program,
-                 const set_step& step,
-                 bool start_section);
-    int run_unit(sys_result_info& result, const bounded_unit_action& action, int next);
-    void run_signal(sys_result_info& result,
-                    const statement_program& program,
-                    const signal_action& action);
-    void run_fill(sys_result_info& result, const fill_action& action, bool start_section);
-
     const play_environment& game;
     general_player::player_names player;
     play_listener*& listener;

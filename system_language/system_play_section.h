@@ -49,17 +49,17 @@ public:
     static section section_of(const QList<section_line>& lines);
 
 signals:
-    void sys_ignore_counter(int ignore_counter);
+    void sys_ignore_counter(int ignore_counter) override;
     void set_system_jeton(general_player::player_names player,
                           jetons::jeton_names jeton,
                           jetons::ext_jeton_names ext_jeton,
-                          int jeton_amount);
-    void system_status_to_main_thread(general_player::player_names player, sys_result_info info);
+                          int jeton_amount) override;
+    void system_status_to_main_thread(general_player::player_names player, sys_result_info info) override;
     void set_rescan_option(system_play_options::sg_rescan_options rescan_opt,
-                           qlonglong rescan_opt_value);
-    void sys_message_display(QStringList lines);
-    void system_monitor_action(general_player::player_names player, QString action);
-    void system_play_round_complete();
+                           qlonglong rescan_opt_value) override;
+    void sys_message_display(QStringList lines) override;
+    void system_monitor_action(general_player::player_names player, QString action) override;
+    void system_play_round_complete() override;
 
 protected:
     /// Runs the lines of a section. @param start_section  true only for `ST:`

@@ -45,7 +45,7 @@ void system_play_settings::read_option(sys_result_info& result, const QString& o
         read_delay(result, option);
         return;
     case u'A':
-        send_to_tables(option_overflow_restart, 0, 0);
+        set_ext_rescan_option(option_overflow_restart, 0, 0);
         return;
     case u'S':
         read_reset(result, option);
@@ -54,7 +54,7 @@ void system_play_settings::read_option(sys_result_info& result, const QString& o
         send_to_run(option_hand_change);
         return;
     case u'E':
-        send_to_tables(option_overflow_stop, 0, 0);
+        set_ext_rescan_option(option_overflow_stop, 0, 0);
         return;
     case u'V':
         send_limit(option_loss_limit, option);
@@ -97,7 +97,8 @@ void system_play_settings::read_reset(sys_result_info& result, const QString& op
     constexpr int further_length = 2; // "ST"
 
     if (option == QLatin1String("S")) {
-        send_to_tables(system_play_options::option_overflow_wrap, table_number, counter_number);
+        set_ext_rescan_option(
+            system_play_options::option_overflow_wrap, table_number, counter_number);
     } else if (option.startsWith(QLatin1String("S(ST"), Qt::CaseInsensitive)) {
         read_counter_reset(result, option, opening_length);
     } else if (option.startsWith(QLatin1String("ST"), Qt::CaseInsensitive)) {
@@ -145,7 +146,7 @@ void system_play_settings::read_counter_reset(sys_result_info& result,
     }
     counter_number = number;
     list_open = closing == 1;
-    send_to_tables(system_play_options::option_overflow_reset, table_number, counter_number);
+    set_ext_rescan_option(system_play_options::option_overflow_reset, table_number, counter_number);
 }
 
 void system_play_settings::send_limit(sg_rescan_options option, const QString& text)
@@ -160,7 +161,7 @@ void system_play_settings::send_to_run(sg_rescan_options option)
     receiver.set_rescan_option(option, 0);
 }
 
-void system_play_settings::send_to_tables(sg_rescan_options option, int table, int counter)
+void system_play_settings::set_ext_rescan_option(sg_rescan_options option, int table, int counter)
 {
     options[static_cast<std::size_t>(option)] = true;
     tables.set_rescan_option(option, table, counter);

@@ -40,7 +40,8 @@ private:
     void read_counter_reset(sys_result_info& result, const QString& option, int name_length);
     void send_limit(system_play_options::sg_rescan_options option, const QString& text);
     void send_to_run(system_play_options::sg_rescan_options option);
-    void send_to_tables(system_play_options::sg_rescan_options option, int table, int counter);
+    void
+    set_ext_rescan_option(system_play_options::sg_rescan_options option, int table, int counter);
 
     system_play_steigerungstabelle& tables;
     option_receiver& receiver;

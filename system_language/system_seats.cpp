@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-using general_player::player_names;
-
 /// One player's system and the listener that stands between it and the table.
 class system_seats::seat : private play_listener
 {
@@ -55,6 +53,12 @@ private:
     player_names own_player;
 };
 
+void system_seats::player_order::remove(player_names player)
+{
+    const auto last = players.begin() + count;
+    count = static_cast<std::size_t>(std::remove(players.begin(), last, player) - players.begin());
+}
+
 system_seats::system_seats(const play_environment& play_place,
                            const coup_cycle& game_cycle,
                            seats_host& seats_listener)
@@ -73,7 +77,7 @@ bool system_seats::start(player_names player)
     environment.table.make_system_player(player);
     seats[index(player)] = std::make_unique<seat>(*this, player);
     start_order.append(player);
-    system_game& game            = seats[index(player)]->game;
+    system_game& game = seats[index(player)]->game;
     const sys_result_info result = game.start_system_file();
     if (result.status != system_status::all_right) {
         act_on_status(player, result);
@@ -93,20 +97,21 @@ void system_seats::stop(player_names player)
     if (!taken) return;
     taken->game.run().end_play();
     ended.push_back(std::move(taken));
-    start_order.remove(static_cast<int>(
-        std::find(start_order.begin(), start_order.end(), player) - start_order.begin()));
+    start_order.remove(player);
     environment.table.make_normal_player(player);
 }
 
 void system_seats::stop_all()
 {
-    for (int i = 0; i < general_player::player_count; ++i) stop(static_cast<player_names>(i));
+    for (int i = 0; i < general_player::player_count; ++i)
+        stop(static_cast<player_names>(i));
 }
 
 player_flags system_seats::playing() const
 {
     player_flags flags{};
-    for (std::size_t i = 0; i < flags.size(); ++i) flags[i] = seats[i] != nullptr;
+    for (std::size_t i = 0; i < flags.size(); ++i)
+        flags[i] = seats[i] != nullptr;
     return flags;
 }
 
@@ -124,8 +129,8 @@ void system_seats::play()
 void system_seats::check_borders()
 {
     ++calls_under_way;
-    for (std::size_t i = 0; i < seats.size(); ++i) {
-        if (seats[i]) seats[i]->game.run().check_special_system_game_borders();
+    for (const std::unique_ptr<seat>& each : seats) {
+        if (each) each->game.run().check_special_system_game_borders();
     }
     --calls_under_way;
 }

@@ -4,8 +4,6 @@
 #include "coup_cycle.h"
 #include "system_game.h"
 
-#include <QVarLengthArray>
-
 #include <array>
 #include <memory>
 #include <vector>
@@ -53,9 +51,7 @@ class system_seats
 public:
     using player_names = general_player::player_names;
 
-    system_seats(const play_environment& environment,
-                 const coup_cycle& cycle,
-                 seats_host& host);
+    system_seats(const play_environment& environment, const coup_cycle& cycle, seats_host& host);
     ~system_seats();
 
     /// Gives the player to the system file that the settings name, and lets it play its first
@@ -70,7 +66,7 @@ public:
 
     player_flags playing() const;
     bool plays(player_names player) const { return seats[index(player)] != nullptr; }
-    bool any_plays() const { return !start_order.isEmpty(); }
+    bool any_plays() const { return start_order.count > 0; }
 
     /// Every system plays its turn, in the order in which they were started.
     void play();
@@ -83,7 +79,17 @@ public:
 
 private:
     class seat;
-    using player_order = QVarLengthArray<player_names, general_player::player_count>;
+
+    /// Players in the order in which their systems were started.
+    struct player_order {
+        std::array<player_names, general_player::player_count> players{};
+        std::size_t count = 0;
+
+        void append(player_names player) { players[count++] = player; }
+        void remove(player_names player);
+        auto begin() const { return players.begin(); }
+        auto end() const { return players.begin() + count; }
+    };
 
     static std::size_t index(player_names player) { return static_cast<std::size_t>(player); }
 

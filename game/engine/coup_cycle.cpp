@@ -94,7 +94,8 @@ void coup_cycle::throw_finished()
     const number_hit_property& property = property_of(active_number);
     collect_count = 0;
     evaluation_open = true;
-    host.count_scores(property, table.evaluate(property, rules_of(settings)));
+    coup_rules = rules_of(settings);
+    host.count_scores(property, table.evaluate(property, coup_rules));
 }
 
 void coup_cycle::score_counted(player_names player, qint64 score)
@@ -109,9 +110,8 @@ void coup_cycle::score_counted(player_names player, qint64 score)
 
 void coup_cycle::finish_coup()
 {
-    const table_rules rules = rules_of(settings);
-    table.clear_won_jetons(rules);
-    table.set_back_jetons(rules);
+    table.clear_won_jetons(coup_rules);
+    table.set_back_jetons(coup_rules);
     const unsigned earlier_stops = stops;
     host.check_system_borders();
     if (was_stopped_since(earlier_stops)) return;

@@ -8,7 +8,6 @@
 
 using general_player::NO_PLAYER;
 using general_player::player_count;
-using general_player::player_names;
 
 static constexpr int even_chances = 6;
 static constexpr std::size_t all_players = player_count;
@@ -241,6 +240,7 @@ player_sums game_table::close_bets()
     player_sums sums{};
     for (std::size_t i = 0; i < all_players; ++i) {
         sums[i] = accounts[i].seeded;
+        if (jeton_table[i].is_empty() && last_bet[i].is_empty()) continue;
         last_bet[i].copy_from(jeton_table[i]);
     }
     return sums;
@@ -254,10 +254,22 @@ player_sums game_table::evaluate(const number_hit_property& property, const tabl
     use_rules(rules);
     for (std::size_t i = 0; i < all_players; ++i) {
         replay_in_coup[i] = accounts[i].replay;
-        if (jeton_table[i].is_empty() && prisons[i].is_empty()) continue;
-        scores[i] = evaluate_player(i, property, rules);
+        const std::size_t first_released = released.size();
+        if (!jeton_table[i].is_empty() || !prisons[i].is_empty()) {
+            scores[i] = evaluate_player(i, property, rules);
+        }
+        if (listener) tell_evaluation(i, scores[i], first_released);
     }
     return scores;
+}
+
+void game_table::tell_evaluation(std::size_t i, qint64 score, std::size_t first_released) const
+{
+    tell_account(i);
+    for (std::size_t back = first_released; back < released.size(); ++back) {
+        listener->save_zero_back_jeton(player_at(i), released[back].jeton, released[back].count);
+    }
+    listener->player_score_changend(player_at(i), score);
 }
 
 qint64 game_table::evaluate_player(std::size_t i,

@@ -64,6 +64,11 @@ public:
     virtual void player_changed() = 0;
     virtual void recreate_prison_jetons(general_player::player_names player) = 0;
     virtual void check_status_replay() = 0;
+
+    /// A player is evaluated; a score of 0 is told too.
+    virtual void player_score_changend(general_player::player_names, qlonglong) {}
+    /// A piece leaves prison and will lie again on the next coup.
+    virtual void save_zero_back_jeton(general_player::player_names, jetons::jeton_names, int) {}
 };
 
 /**
@@ -169,6 +174,7 @@ private:
     void end_unpaid_replay(std::size_t i);
     void use_rules(const table_rules& rules);
     void tell_account(std::size_t i) const;
+    void tell_evaluation(std::size_t i, qint64 score, std::size_t first_released) const;
 
     template <typename value_type>
     using per_player = std::array<value_type, general_player::player_count>;

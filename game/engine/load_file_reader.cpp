@@ -140,6 +140,7 @@ void load_file_reader::read_blocks(QIODevice& device)
 void load_file_reader::take_bytes(const char* begin, const char* end)
 {
     if (before_line) before_line();
+    if (take_plain_line(begin, end)) return;
     wide_size = static_cast<size_t>(end - begin);
     if (wide_line.size() < wide_size) wide_line.resize(wide_size);
     char16_t all_bits = 0;
@@ -151,6 +152,36 @@ void load_file_reader::take_bytes(const char* begin, const char* end)
     const bool is_ascii = all_bits < 0x80;
     if (!is_ascii) decode(begin, end);
     take_line(QStringView(wide_line.data(), static_cast<qsizetype>(wide_size)));
+}
+
+/// Takes a line of nothing but short numbers and blanks, as nearly all lines of large files are,
+/// straight from its bytes. Any other line is left alone: false, and nothing is taken.
+bool load_file_reader::take_plain_line(const char* begin, const char* end)
+{
+    constexpr int longest_number = 2;
+    const bool mark_is_no_number = rules.hand_change_mark.startsWith(QLatin1Char('-'));
+    if (rules.skip_by_date || !mark_is_no_number) return false;
+
+    const size_t numbers_before = yield.numbers.size();
+    int value = 0;
+    int digits = 0;
+    for (const char* place = begin;; ++place) {
+        const bool at_end = place == end || (*place == '\r' && place + 1 == end);
+        if (!at_end && *place >= '0' && *place <= '9') {
+            value = 10 * value + (*place - '0');
+            if (++digits <= longest_number) continue;
+        }
+        const bool is_blank = at_end || *place == ' ';
+        const bool is_double_zero = digits == 2 && value == 0;
+        if (!is_blank || value > highest_number || is_double_zero) {
+            yield.numbers.resize(numbers_before);
+            return false;
+        }
+        if (digits > 0) yield.numbers.push_back(static_cast<quint8>(value));
+        if (at_end) return true;
+        value = 0;
+        digits = 0;
+    }
 }
 
 void load_file_reader::decode(const char* begin, const char* end)

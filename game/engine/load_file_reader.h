@@ -67,6 +67,7 @@ private:
     void read_blocks(QIODevice& device);
     void read_unicode(QIODevice& device);
     void take_bytes(const char* begin, const char* end);
+    bool take_plain_line(const char* begin, const char* end);
     void decode(const char* begin, const char* end);
     void take_line(QStringView line);
     void take_date_line(QStringView line);

@@ -57,6 +57,7 @@ void number_control::set_remove_ext_jeton_via_ext_jeton_name(
         return;
     }
     const QVector<jetons::jeton_names>& list = announcement_jetons(ext_jeton, game_setting.form());
+    if (list.isEmpty()) return;
     const account& owner = accounts.account_of(player);
     const bool must_pay = action == general_setting::SET_JETON && !owner.is_system;
     if (must_pay && owner.credit < static_cast<qint64>(amount) * list.size()) {

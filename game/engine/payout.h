@@ -44,7 +44,7 @@ constexpr int full_multiplier(jetons::jeton_names jeton, table_form form)
         // With the double zero the bet on the first numbers holds five.
         return jeton == jetons::CA01 && form == table_form::american ? 7 : 9;
     case chance_kind::transversale_simple: return 6;
-    case chance_kind::dutzend:             return 3;
+    case chance_kind::dutzend:
     case chance_kind::kolonne:             return 3;
     case chance_kind::einfache_chance:     return 2;
     case chance_kind::none:                return 0;

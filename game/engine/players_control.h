@@ -57,9 +57,9 @@ public slots:
     void decrease_jeton_value(jeton_info info);
 
 signals:
-    void player_credit_seeded_update(general_player::player_names player);
-    void player_changed();
-    void player_score_changend(general_player::player_names player, qlonglong score);
+    void player_credit_seeded_update(general_player::player_names player) override;
+    void player_changed() override;
+    void player_score_changend(general_player::player_names player, qlonglong score) override;
     void players_seeded_to_storage(qlonglong seeded_P1,
                                    qlonglong seeded_P2,
                                    qlonglong seeded_P3,
@@ -68,8 +68,8 @@ signals:
     void change_play_statistic_view(general_player::player_names player);
     void save_zero_back_jeton(general_player::player_names player,
                               jetons::jeton_names jeton,
-                              int amount);
-    void recreate_prison_jetons(general_player::player_names player);
+                              int amount) override;
+    void recreate_prison_jetons(general_player::player_names player) override;
     void checkStatusReplay();
 
 private:
