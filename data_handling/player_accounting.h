@@ -11,14 +11,15 @@
 
 /// What a system and a protocol may know of a player's coups, by value.
 struct player_status {
-    qint64 coups = 0;        ///< coups whose stake is known
-    qint64 start_credit = 0; ///< capital at the start
-    qint64 last_seeded = 0;  ///< amount set in the last coup, 0 without one
-    qint64 last_score = 0;   ///< amount returned in the last coup, 0 without one
-    qint64 last_credit = 0;  ///< capital after the last coup, 0 without one
-    int plus_coups = 0;      ///< coups with at least the stake back
-    int minus_coups = 0;     ///< coups with less back than set
-    bool has_credit = false; ///< false until a coup is counted to its end
+    qint64 coups = 0;         ///< coups whose stake is known
+    qint64 counted_coups = 0; ///< coups whose return is known too
+    qint64 start_credit = 0;  ///< capital at the start
+    qint64 last_seeded = 0;   ///< amount set in the last coup, 0 without one
+    qint64 last_score = 0;    ///< amount returned in the last coup, 0 without one
+    qint64 last_credit = 0;   ///< capital after the last coup, 0 without one
+    int plus_coups = 0;       ///< coups with at least the stake back
+    int minus_coups = 0;      ///< coups with less back than set
+    bool has_credit = false;  ///< false until a coup is counted to its end
 };
 
 /// Read-only view of the players' figures.
@@ -65,11 +66,11 @@ public:
     {
         block& own = block_of(player);
         player_status& state = own.status;
-        if (own.scores >= state.coups) return false;
-        ++own.scores;
+        if (state.counted_coups >= state.coups) return false;
+        ++state.counted_coups;
         if (keep == course_keeping::whole_course) own.score.append(score);
         state.last_score = score;
-        if (own.scores != state.coups) return false;
+        if (state.counted_coups != state.coups) return false;
         if (score < state.last_seeded) {
             ++state.minus_coups;
         } else if (score > state.last_seeded || state.last_seeded > 0) {
@@ -96,7 +97,6 @@ public:
 private:
     struct block {
         player_status status;
-        qint64 scores = 0; // coups whose return is known
         QList<qint64> seeded;
         QList<qint64> score;
         QList<qint64> credit;

@@ -97,8 +97,9 @@ system_output::~system_output()
     close();
 }
 
-bool system_output::open()
+bool system_output::open(qint64 coups_so_far)
 {
+    counted_coups = coups_so_far;
     file.setFileName(settings.s_user_out_file(player));
     const bool was_there = file.exists();
     write_failed = !file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text |
@@ -128,8 +129,8 @@ void system_output::write_header()
 void system_output::write_coup_line(const player_status& status)
 {
     if (!file.isOpen()) return;
-    const bool is_new_coup = status.coups > counted_coups; // fewer: the statistic was emptied
-    counted_coups = status.coups;
+    const bool is_new_coup = status.counted_coups > counted_coups; // fewer: emptied
+    counted_coups = status.counted_coups;
     const std::vector<quint8>& thrown = numbers.history().thrown();
     if (!is_new_coup || thrown.empty()) return;
     write_load_file_marks();

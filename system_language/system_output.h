@@ -31,12 +31,13 @@ public:
                   const setting& settings,
                   general_player::player_names player,
                   protocol_flushing flushing = protocol_flushing::line_by_line,
-                  QObject* parent            = nullptr);
+                  QObject* parent = nullptr);
     ~system_output() override;
 
     /// Opens the protocol that the settings name for the player and writes the header, behind an
     /// empty line when the file was there before. Returns whether it could be opened.
-    bool open();
+    /// @param coups_so_far  coups of the player that were counted before: they get no line
+    bool open(qint64 coups_so_far = 0);
 
     /// Two lines: the columns with the system file of the player, and a rule.
     void write_header();
@@ -68,11 +69,11 @@ private:
     protocol_flushing flushing;
     QFile file;
     QByteArray buffer;
-    QString last_load_file;    // load file of the last coup line
-    QByteArray comment;        // at the end of the next coup lines
-    qint64 counted_coups = 0;  // of the status at the last line
-    bool manual_number   = false;
-    bool write_failed    = false;
+    QString last_load_file;   // load file of the last coup line
+    QByteArray comment;       // at the end of the next coup lines
+    qint64 counted_coups = 0; // of the status at the last line
+    bool manual_number = false;
+    bool write_failed = false;
 };
 
 #endif // SYSTEM_OUTPUT_H

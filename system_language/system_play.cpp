@@ -24,13 +24,13 @@ void system_play::init(const QList<section_line>& st,
                        const QList<section_line>& ve,
                        const QList<section_line>& gw)
 {
-    section_st     = section_of(st);
-    section_al     = section_of(al);
-    section_ve     = section_of(ve);
-    section_gw     = section_of(gw);
+    section_st = section_of(st);
+    section_al = section_of(al);
+    section_ve = section_of(ve);
+    section_gw = section_of(gw);
     ignore_counter = 0;
-    finished       = false;
-    start_credit   = game.table.credit(player);
+    out_of_play = false;
+    start_credit = game.table.credit(player);
 }
 
 void system_play::play()
@@ -41,8 +41,8 @@ void system_play::play()
     }
     do {
         noted.round = false;
-        in_round    = true;
-        if (!finished) play_round();
+        in_round = true;
+        if (!out_of_play) play_round();
         in_round = false;
         carry_out_noted();
         listener->system_play_round_complete();
@@ -59,7 +59,7 @@ void system_play::play_round()
             listener->system_monitor_action(player, tr("Verzögerung aktiv"));
             break;
         }
-        if (play_due_sections() != section_outcome::restart) break;
+        if (play_due_sections() != section_outcome::restart || out_of_play) break;
         sys_reset();
         game.table.restore_active_player();
         if (restarts < restarts_per_coup) continue;
@@ -106,7 +106,7 @@ void system_play::count_round()
 
 void system_play::check_special_system_game_borders()
 {
-    if (finished) return;
+    if (out_of_play) return;
     if (in_round) {
         noted.border_check = true;
         return;
@@ -114,13 +114,12 @@ void system_play::check_special_system_game_borders()
     if (!any_rescan_option) return;
     const player_status status = game.statistic.status_of(player);
     const qint64 credit = status.has_credit ? status.last_credit : game.table.credit(player);
-    const qint64 delta  = credit - start_credit;
+    const qint64 delta = credit - start_credit;
     if (is_set(option_loss_limit) && delta <= -option_value(option_loss_limit)) {
         system_border_reached(option_loss_limit);
     } else if (is_set(option_gain_limit) && delta >= option_value(option_gain_limit)) {
         system_border_reached(option_gain_limit);
-    } else if (is_set(option_coup_limit)
-               && coup_count_border >= option_value(option_coup_limit)) {
+    } else if (is_set(option_coup_limit) && coup_count_border >= option_value(option_coup_limit)) {
         system_border_reached(option_coup_limit);
     }
 }
@@ -134,15 +133,21 @@ void system_play::system_border_reached(sg_rescan_options option)
         sys_reset();
         return;
     }
-    finished         = true;
+    out_of_play = true;
     const bool pause = is_set(option_pause);
     sys_result_info info;
     info.status = system_status::stop;
     info.player = player;
     switch (option) {
-    case option_loss_limit: info.error_text = tr("Grund: Verlust Grenze erreicht!"); break;
-    case option_gain_limit: info.error_text = tr("Grund: Gewinn Grenze erreicht!"); break;
-    default: info.error_text = tr("Grund: Coup Grenze erreicht!"); break;
+    case option_loss_limit:
+        info.error_text = tr("Grund: Verlust Grenze erreicht!");
+        break;
+    case option_gain_limit:
+        info.error_text = tr("Grund: Gewinn Grenze erreicht!");
+        break;
+    default:
+        info.error_text = tr("Grund: Coup Grenze erreicht!");
+        break;
     }
     listener->system_status_to_main_thread(player, info);
     if (!pause) return;
@@ -152,7 +157,7 @@ void system_play::system_border_reached(sg_rescan_options option)
 
 void system_play::hand_change_sign_throw()
 {
-    if (finished) return;
+    if (out_of_play) return;
     if (in_round) {
         noted.hand_change = true;
         return;
@@ -178,18 +183,18 @@ void system_play::sys_reset()
 {
     game.table.clear_jetons(player);
     listener->system_bets_returned();
-    ignore_counter    = 0;
+    ignore_counter = 0;
     coup_count_border = 0;
-    rescan_options    = {};
+    rescan_options = {};
     any_rescan_option = false;
-    start_credit      = game.table.credit(player);
+    start_credit = game.table.credit(player);
     listener->system_monitor_action(player, tr("SysReset durchgeführt"));
 }
 
 void system_play::take_rescan_option(sg_rescan_options rescan_opt, qlonglong rescan_opt_value)
 {
     rescan_options[static_cast<std::size_t>(rescan_opt)] = rescan_opt_value;
-    any_rescan_option                                    = true;
+    any_rescan_option = true;
 }
 
 bool system_play::is_set(sg_rescan_options option) const

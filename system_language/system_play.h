@@ -31,7 +31,7 @@ public:
     int rounds() const { return coup_count_all; }
 
     /// True from the limit that ended the system.
-    bool is_finished() const { return finished; }
+    bool is_finished() const { return out_of_play; }
 
 public slots:
     /// Plays one round.
@@ -44,7 +44,7 @@ public slots:
     void hand_change_sign_throw();
 
     /// Takes the system out of play: it only reports the end of its rounds from here on.
-    void end_play() { finished = true; }
+    void end_play() { out_of_play = true; }
 
     void set_ignore_counter(int coups) { ignore_counter = coups; }
     void take_rescan_option(system_play_options::sg_rescan_options rescan_opt,
@@ -53,9 +53,9 @@ public slots:
 private:
     /// What was asked for in the middle of a round, done at its end.
     struct noted_requests {
-        bool hand_change  = false;
+        bool hand_change = false;
         bool border_check = false;
-        bool round        = false;
+        bool round = false;
     };
 
     void play_round();
@@ -74,12 +74,11 @@ private:
     section section_ve;
     section section_gw;
 
-    int coup_count_all    = 0;
+    int coup_count_all = 0;
     int coup_count_border = 0; // rounds that count for the limit C
-    int ignore_counter    = 0; // 0 start due, -1 running, above 0 rounds still to wait
-    qint64 start_credit   = 0; // credit at start or at the last reset
-    bool finished         = false;
-    bool in_round         = false;
+    int ignore_counter = 0;    // 0 start due, -1 running, above 0 rounds still to wait
+    qint64 start_credit = 0;   // credit at start or at the last reset
+    bool in_round = false;
     noted_requests noted;
 
     std::array<std::optional<qint64>, system_play_options::option_count> rescan_options;

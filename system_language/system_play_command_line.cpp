@@ -146,7 +146,7 @@ struct system_play_command_line::step_runner {
     }
     int operator()(const unknown_action& action)
     {
-        qCDebug(language_log) << "Not implemented sz action: " << action.token;
+        qCDebug(language_log).noquote().nospace() << "Not implemented sz action: " << action.token;
         return next;
     }
     int operator()(const bounded_unit_action& action);

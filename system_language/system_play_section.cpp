@@ -24,16 +24,18 @@ system_play_section::section system_play_section::section_of(const QList<section
 {
     section result;
     result.reserve(static_cast<std::size_t>(lines.size()));
-    for (const section_line& line : lines) result.push_back({line, {}, {}});
+    for (const section_line& line : lines)
+        result.push_back({line, {}, {}});
     return result;
 }
 
 section_outcome system_play_section::play_section_lines(section& lines, bool start_section)
 {
-    delay_begun   = false;
+    delay_begun = false;
     result.player = player;
     for (play_line& line : lines) {
-        line_number             = line.source.number;
+        if (out_of_play) return section_outcome::stop;
+        line_number = line.source.number;
         const bool was_compiled = line.program.has_value();
         begin_statement(result);
         if (!was_compiled && !compile(line)) {
@@ -53,9 +55,8 @@ section_outcome system_play_section::end_of_lines(bool start_section)
     return section_outcome::go_on;
 }
 
-section_outcome system_play_section::act_on_status(const play_line& line,
-                                                   bool start_section,
-                                                   bool was_compiled)
+section_outcome
+system_play_section::act_on_status(const play_line& line, bool start_section, bool was_compiled)
 {
     switch (result.status) {
     case system_status::delay_begun:
@@ -68,8 +69,12 @@ section_outcome system_play_section::act_on_status(const play_line& line,
     case system_status::restart_full:
         command_line.rebuild_command_line(false);
         return section_outcome::restart;
-    case system_status::stop: report(line); return section_outcome::stop;
-    default: report(line); return section_outcome::error;
+    case system_status::stop:
+        report(line);
+        return section_outcome::stop;
+    default:
+        report(line);
+        return section_outcome::error;
     }
 }
 
@@ -88,8 +93,8 @@ bool system_play_section::compile(play_line& line)
 
 void system_play_section::report(const play_line& line)
 {
-    result.error_line   = line.source.number;
-    result.line_text    = line.source.text;
+    result.error_line = line.source.number;
+    result.line_text = line.source.text;
     result.command_text = line.token_text;
     listener->system_status_to_main_thread(player, result);
 }

@@ -17,8 +17,8 @@ enum class section_outcome { go_on = 0, error = 1, restart = 2, stop = 3 };
 
 /// A statement of a system and what became of it.
 struct play_line {
-    section_line source; ///< as the file has it
-    QString token_text;  ///< empty until the line is first reached
+    section_line source;                      ///< as the file has it
+    QString token_text;                       ///< empty until the line is first reached
     std::optional<statement_program> program; ///< the meaning of the token text
 };
 
@@ -54,7 +54,8 @@ signals:
                           jetons::jeton_names jeton,
                           jetons::ext_jeton_names ext_jeton,
                           int jeton_amount) override;
-    void system_status_to_main_thread(general_player::player_names player, sys_result_info info) override;
+    void system_status_to_main_thread(general_player::player_names player,
+                                      sys_result_info info) override;
     void set_rescan_option(system_play_options::sg_rescan_options rescan_opt,
                            qlonglong rescan_opt_value) override;
     void sys_message_display(QStringList lines) override;
@@ -64,6 +65,9 @@ signals:
 protected:
     /// Runs the lines of a section. @param start_section  true only for `ST:`
     section_outcome play_section_lines(section& lines, bool start_section);
+
+    /// True once the system has ended: whatever still runs of it comes to nothing.
+    bool out_of_play = false;
 
     /// True when a delay began in the section that was run last.
     bool delay_began() const { return delay_begun; }
@@ -82,7 +86,7 @@ private:
     statement_compiler compiler;
     statement_reader reader;
     sys_result_info result;
-    int line_number  = 0;
+    int line_number = 0;
     bool delay_begun = false;
 };
 
