@@ -22,8 +22,7 @@ letter_pairs::letter_pairs(QStringView text)
             pairs.set();
             return;
         }
-        if (previous != no_letter && letter != no_letter)
-            pairs.set(place_of(previous, letter));
+        if (previous != no_letter && letter != no_letter) pairs.set(place_of(previous, letter));
         previous = letter;
     }
 }

@@ -118,7 +118,7 @@ private:
     bool throw_open = false;      // the ball is on its way
     bool evaluation_open = false; // scores are being counted
     int collect_count = 0;        // players whose score is counted
-    table_rules coup_rules; // the rules at the evaluation hold to the end of the coup
+    table_rules coup_rules;       // the rules at the evaluation hold to the end of the coup
     int active_number = -1;
     int open_system_rounds = -1;
     player_flags round_open{};

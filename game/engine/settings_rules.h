@@ -8,12 +8,12 @@
 inline table_rules rules_of(const setting& settings)
 {
     table_rules rules;
-    rules.form             = settings.form();
-    rules.stake_joins_win  = settings.s_jeton_to_win();
-    rules.staff_piece      = settings.s_tip_def_index();
-    rules.prison           = settings.s_zero_handling();
+    rules.form = settings.form();
+    rules.stake_joins_win = settings.s_jeton_to_win();
+    rules.staff_piece = settings.s_tip_def_index();
+    rules.prison = settings.s_zero_handling();
     const bool pieces_only = settings.s_setzart() == 0;
-    rules.piece_value      = pieces_only ? 1 : settings.s_setzart_real_size();
+    rules.piece_value = pieces_only ? 1 : settings.s_setzart_real_size();
     return rules;
 }
 
