@@ -26,7 +26,7 @@ struct setting_values {
     int s_table_form = 0;                             ///< 0 French, 1 American; else 0
     bool s_pr_color = false;                          ///< print in colour
     bool s_pr_landscape = true;                       ///< print in landscape format
-    int s_hand_change_sign_index = 0;                 ///< hand change sign: "-" and n more, n to 5
+    int s_hand_change_sign_index = 0;                 ///< mark of a hand change: 1 "--", else "-"
     int s_scr_res_factor = -1;                        ///< scale step 0 to 3; -1 no screen known
     bool s_year_statistic = true;                     ///< the year permanence is kept
     bool s_use_history_text_files = true;             ///< the year permanence is in text files
