@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
+#include <new>
+
 static const char usage_text[] =
     "Usage: zarvello-cli COMMAND [OPTIONS]\n"
     "\n"
@@ -16,13 +18,8 @@ static const char usage_text[] =
     "\n"
     "'zarvello-cli COMMAND --help' tells the options of a command.\n";
 
-int main(int argc, char** argv)
+static int run_command(QStringList arguments)
 {
-    QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("zarvello-cli"));
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-
-    QStringList arguments = QCoreApplication::arguments();
     const QString command = arguments.value(1);
     if (arguments.size() > 1) arguments.removeAt(1);
     if (command == QLatin1String("play")) return run_play_command(arguments);
@@ -38,4 +35,17 @@ int main(int argc, char** argv)
     }
     console::print_error(QLatin1String(usage_text));
     return exit_status::usage;
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zarvello-cli"));
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    try {
+        return run_command(QCoreApplication::arguments());
+    } catch (const std::bad_alloc&) {
+        console::print_error(QStringLiteral("zarvello-cli: a file is too large for the memory\n"));
+        return exit_status::usage;
+    }
 }

@@ -27,9 +27,10 @@ static bool is_letter(QChar character)
     return lower_case >= u'a' && lower_case <= u'z';
 }
 
+/// A digit of any script, which makes a part a number; only 0 to 9 give it a value.
 static bool is_digit(QChar character)
 {
-    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+    return character.isDigit();
 }
 
 static QString description_of(QStringView line)
@@ -37,11 +38,12 @@ static QString description_of(QStringView line)
     return line.left(std::min<qsizetype>(line.size(), longest_description)).toString();
 }
 
-/// The value of a text of digits, at most `value_limit`.
+/// The value of a text of digits; `value_limit` for one that does not read as an int.
 static int value_of(QStringView digits)
 {
     qint64 value = 0;
     for (const QChar digit : digits) {
+        if (digit > QLatin1Char('9')) return value_limit;
         value = value * 10 + (digit.unicode() - u'0');
         if (value >= value_limit) return value_limit;
     }
@@ -186,7 +188,8 @@ bool load_file_reader::take_plain_line(const char* begin, const char* end)
 
 void load_file_reader::decode(const char* begin, const char* end)
 {
-    const std::unique_ptr<QTextDecoder> decoder(QTextCodec::codecForLocale()->makeDecoder());
+    const std::unique_ptr<QTextDecoder> decoder(
+        QTextCodec::codecForLocale()->makeDecoder(QTextCodec::IgnoreHeader));
     wide_size = 0;
     while (begin != end) {
         const qsizetype size = std::min<qsizetype>(end - begin, decoding_size);
@@ -197,6 +200,9 @@ void load_file_reader::decode(const char* begin, const char* end)
         wide_size += text_size;
         begin += size;
     }
+    if (!decoder->needsMoreData()) return;
+    if (wide_line.size() < wide_size + 1) wide_line.resize(wide_size + 1);
+    wide_line[wide_size++] = QChar::ReplacementCharacter; // the line broke off in a character
 }
 
 void load_file_reader::take_line(QStringView line)

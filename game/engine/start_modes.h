@@ -16,7 +16,7 @@ struct start_numbers {
  * Cuts the numbers of a load file to what its start mode plays.
  *
  * - Normal start: everything.
- * - Fix start: `fix_start` numbers are dropped, but never more than half of the entries.
+ * - Fix start: `fix_start` numbers are dropped, but of n entries never more than (n + 1) / 2.
  * - Random start 1: play begins at a random number from `random_1_begin` to `random_1_end`.
  *   The first number can't be hit: a start at number 1 drops the whole list.
  * - Random start 2: the file is divided into `random_2_max_attack` parts; from a random number of

@@ -127,6 +127,9 @@ private slots:
     void a_byte_order_mark_chooses_the_encoding_data();
     void a_byte_order_mark_chooses_the_encoding();
     void text_beside_numbers_is_decoded_for_the_locale();
+    void a_character_broken_off_is_no_number_data();
+    void a_character_broken_off_is_no_number();
+    void digits_of_other_scripts_are_illegal();
     void bytes_of_any_kind_do_no_harm();
     void a_description_is_cut_when_it_is_very_long();
 
@@ -340,6 +343,43 @@ void tst_load_file_reader::text_beside_numbers_is_decoded_for_the_locale()
     QTextCodec::setCodecForLocale(codec_before);
     QCOMPARE(list_of(result.numbers), numbers{7});
     QCOMPARE(result.info.description, QStringLiteral("\u00e4 7"));
+}
+
+void tst_load_file_reader::a_character_broken_off_is_no_number_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<numbers>("left");
+    // clang-format off
+    QTest::newRow("Latin-1 letter at the end of a line") << QByteArray("5\xe4\n7\n")          << numbers{7};
+    QTest::newRow("double zero with a lead byte")        << QByteArray("00\xc3\n7\n")         << numbers{7};
+    QTest::newRow("at the end of the file")              << QByteArray("7\n5\xe4")             << numbers{7};
+    QTest::newRow("byte order mark of a second file")    << QByteArray("7\n\xef\xbb\xbf" "9\n8\n") << numbers{7, 8};
+    // clang-format on
+}
+
+void tst_load_file_reader::a_character_broken_off_is_no_number()
+{
+    QFETCH(QByteArray, content);
+    QTextCodec* const codec_before = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    const load_file_result result = read(content, rules_of("-"));
+    QTextCodec::setCodecForLocale(codec_before);
+    QTEST(list_of(result.numbers), "left");
+    QVERIFY(result.illegal_values.empty());
+    QVERIFY(!result.info.description.isEmpty());
+}
+
+void tst_load_file_reader::digits_of_other_scripts_are_illegal()
+{
+    QTextCodec* const codec_before = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    const load_file_result result = read("1\xd9\xa3"
+                                         "1 4\n",
+                                         rules_of("-"));
+    QTextCodec::setCodecForLocale(codec_before);
+    QCOMPARE(list_of(result.numbers), numbers{4});
+    QCOMPARE(result.illegal_values, std::vector<int>{std::numeric_limits<int>::max()});
+    QCOMPARE(result.info.description, QString());
 }
 
 void tst_load_file_reader::bytes_of_any_kind_do_no_harm()
