@@ -6,6 +6,7 @@
 #include <QTextCodec>
 #include <QTextStream>
 
+#include <limits>
 #include <random>
 
 using numbers = QList<int>;
