@@ -79,4 +79,8 @@ function(zarvello_test name)
     zarvello_compile_options(${name})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    if(ZARVELLO_SANITIZE STREQUAL "thread")
+        set_tests_properties(${name} PROPERTIES
+            ENVIRONMENT "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp")
+    endif()
 endfunction()

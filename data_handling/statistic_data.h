@@ -2,8 +2,8 @@
 #define STATISTIC_DATA_H
 
 #include "player_accounting.h"
+#include "store_lock.h"
 
-#include <QMutex>
 #include <QObject>
 
 /**
@@ -53,7 +53,7 @@ signals:
     void player_statistic_updated(general_player::player_names player);
 
 private:
-    mutable QMutex store_lock;
+    mutable store_lock store;
     player_accounting players;
 };
 
