@@ -1,9 +1,9 @@
 #include "system_play_counter.h"
 
+#include "token_argument.h"
+
 #include <algorithm>
 #include <limits>
-
-static constexpr int name_length = 4; // "COnn"
 
 int read_counter_number(QStringView two_digits)
 {
@@ -11,14 +11,6 @@ int read_counter_number(QStringView two_digits)
     const int number = two_digits.toString().toInt(&is_number);
     const bool fits = number >= 0 && number < system_play_counter::counter_count;
     return is_number && fits && two_digits.size() == 2 ? number : -1;
-}
-
-/// What stands between the parentheses of "COnn(...)".
-static QString argument_of(const QString& token)
-{
-    QString argument = token.mid(name_length + 1);
-    if (argument.endsWith(QLatin1Char(')'))) argument.chop(1);
-    return argument;
 }
 
 static bool names_counter(const QString& argument)
@@ -42,7 +34,7 @@ counter_action system_play_counter::read_action(const QString& token)
     using kind = counter_action::kind;
 
     const int index = read_counter_number(QStringView(token).mid(2, 2));
-    QString argument = argument_of(token);
+    QString argument = token_argument(token);
     if (index < 0 || argument.isEmpty()) return {};
 
     const QChar first = argument.at(0);
@@ -71,7 +63,7 @@ counter_test system_play_counter::read_test(const QString& token)
     test.index = read_counter_number(QStringView(token).mid(2, 2));
     if (test.index < 0) return {};
 
-    const QString argument = argument_of(token);
+    const QString argument = token_argument(token);
     const operator_at_start start = read_operator(argument);
     const QString right = argument.mid(start.length);
     test.sign = start.sign;

@@ -1,6 +1,7 @@
 #include "system_play_einheiten.h"
 
 #include "language_fault.h"
+#include "token_argument.h"
 
 #include <algorithm>
 #include <limits>
@@ -44,8 +45,7 @@ unit_action system_play_einheiten::read_action(const QString& token)
     action.index = unit.unicode() - u'0';
     const QString tail = token.mid(3);
     if (tail.startsWith(QLatin1Char('('))) {
-        QString inside = tail.mid(1);
-        if (inside.endsWith(QLatin1Char(')'))) inside.chop(1);
+        const QString inside = token_argument(tail);
         bool is_number = false;
         action.number = inside.toInt(&is_number);
         action.what = is_number ? kind::assign : kind::nothing;

@@ -3,6 +3,7 @@
 #include "language_fault.h"
 #include "numberstorage.h"
 #include "system_play_cheton.h"
+#include "token_argument.h"
 
 system_play_playtable::system_play_playtable(system_play_cheton& own_cheton,
                                              const play_environment& environment)
@@ -43,14 +44,12 @@ playtable_action system_play_playtable::read_action(const QString& token)
     playtable_action action;
     action.table = token.mid(2, 1).toInt();
     if (action.table < 1 || action.table > table_count) return {};
-    QString tail = token.mid(3);
+    const QString tail = token.mid(3);
     if (!tail.startsWith(QLatin1Char('('))) {
         action.what = playtable_action::kind::set_all;
         return action;
     }
-    tail.remove(0, 1);
-    if (tail.endsWith(QLatin1Char(')'))) tail.chop(1);
-    read_argument(action, tail);
+    read_argument(action, token_argument(tail));
     return action;
 }
 

@@ -4,6 +4,7 @@
 #include "number_records.h"
 #include "numberstorage.h"
 #include "system_play_counter.h"
+#include "token_argument.h"
 
 static constexpr int type_length = 2;         // "EC"
 static constexpr int counter_name_length = 4; // "CO12"
@@ -54,10 +55,7 @@ signal_test system_play_signal_compare::read_test(const QString& token,
                                                   const QString& type_token,
                                                   const QString& target_token)
 {
-    QString inside = token.mid(token.indexOf(QLatin1Char('(')) + 1);
-    inside.remove(QLatin1Char(' '));
-    inside.remove(QLatin1Char(')'));
-    const QStringList pieces = inside.split(QLatin1Char('/'));
+    const QStringList pieces = window_pieces(token);
 
     signal_test test;
     test.range = pieces.value(0).toInt();

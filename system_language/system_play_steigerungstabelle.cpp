@@ -2,6 +2,7 @@
 
 #include "language_fault.h"
 #include "system_play_counter.h"
+#include "token_argument.h"
 
 #include <QStringList>
 
@@ -16,14 +17,6 @@ static int table_number(const QString& text)
     return number >= 1 && number <= system_play_steigerungstabelle::table_count ? number : 0;
 }
 
-/// What stands between the first "(" and the last ")".
-static QString argument_of(const QString& text)
-{
-    QString argument = text.mid(text.indexOf(QLatin1Char('(')) + 1);
-    if (argument.endsWith(QLatin1Char(')'))) argument.chop(1);
-    return argument;
-}
-
 system_play_steigerungstabelle::system_play_steigerungstabelle(system_play_counter& own_counters)
     : counters(own_counters)
 {
@@ -34,7 +27,7 @@ table_move system_play_steigerungstabelle::read_move(const QString& text)
     using kind = table_move::kind;
 
     const int table = table_number(text);
-    QString argument = argument_of(text);
+    QString argument = token_argument(text);
     if (table == 0) return {};
     if (argument.startsWith(QLatin1String("CO"), Qt::CaseInsensitive)) {
         const int counter = read_counter_number(QStringView(argument).mid(2, 2));
@@ -55,7 +48,7 @@ table_test system_play_steigerungstabelle::read_test(const QString& token)
 {
     table_test test;
     test.table = table_number(token);
-    test.value_text = argument_of(token);
+    test.value_text = token_argument(token);
     test.value = test.value_text.toInt(&test.is_number);
     return test;
 }
@@ -64,7 +57,7 @@ void system_play_steigerungstabelle::fill(sys_result_info& result, const QString
 {
     const int table = table_number(token);
     if (table == 0) return;
-    const QStringList values = argument_of(token).split(QLatin1Char(','));
+    const QStringList values = token_argument(token).split(QLatin1Char(','));
     for (const QString& text : values) {
         const int value = text.toInt();
         if (value < 1) {

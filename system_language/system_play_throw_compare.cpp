@@ -4,6 +4,7 @@
 #include "language_fault.h"
 #include "number_places.h"
 #include "numberstorage.h"
+#include "token_argument.h"
 
 #include <algorithm>
 
@@ -15,10 +16,7 @@ system_play_throw_compare::system_play_throw_compare(const play_environment& env
 count_test system_play_throw_compare::read_count_test(const QString& token,
                                                       const QString& jeton_token)
 {
-    QString inside = token.mid(token.indexOf(QLatin1Char('(')) + 1);
-    inside.remove(QLatin1Char(' '));
-    inside.remove(QLatin1Char(')'));
-    const QStringList halves = inside.split(QLatin1Char('/'));
+    const QStringList halves = window_pieces(token);
     count_test test;
     test.range = halves.value(0).toInt();
     test.selector = sys_play_operator_check(halves.value(1));
