@@ -326,5 +326,6 @@ statement_compiler::statement_compiler(const system_pattern& patterns)
 
 void statement_compiler::compile_statement(sys_result_info& result, const QString& text) const
 {
-    statement_scan(taker, text, result).compile();
+    const QString statement = text; // the text may be a field of the result
+    statement_scan(taker, statement, result).compile();
 }
