@@ -22,7 +22,7 @@ public:
     /// with `error_text`, `mark_mode` and, in `mark_text`, the piece at fault: the rest of the
     /// statement from the fault on, or a single token. `command_text` is then of no use.
     /// The remaining fields stay as they are. The length of a chain of tests is not limited. The
-    /// text comes by value: it may well be a field of the result.
+    /// The text may well be a field of the result.
     void compile_statement(sys_result_info& result, const QString& text) const;
 
 private:
