@@ -2,6 +2,8 @@
 
 #include "system_pattern.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 
 static const QLatin1String token_separator("|");
@@ -20,9 +22,10 @@ class statement_scan
     Q_DECLARE_TR_FUNCTIONS(statement_compiler)
 
 public:
-    statement_scan(const token_taker& tokens_taker, QStringView statement, sys_result_info& outcome)
+    statement_scan(const token_taker& tokens_taker, QString statement, sys_result_info& outcome)
         : taker(tokens_taker)
-        , text(statement)
+        , source(std::move(statement))
+        , text(source)
         , result(outcome)
     {
     }
@@ -59,7 +62,8 @@ private:
     bool fail_at(const QString& token, const QString& message);
 
     const token_taker& taker;
-    QStringView text; // what is left of the statement
+    const QString source; // kept here: what is compiled may be a field of the result
+    QStringView text;     // what is left of the statement
     sys_result_info& result;
     QStringList earlier_links; // token texts of the links in front of the last AND
     QStringList tokens;        // of the link being compiled: IF, test, ...
@@ -326,6 +330,5 @@ statement_compiler::statement_compiler(const system_pattern& patterns)
 
 void statement_compiler::compile_statement(sys_result_info& result, const QString& text) const
 {
-    const QString statement = text; // the text may be a field of the result
-    statement_scan(taker, statement, result).compile();
+    statement_scan(taker, text, result).compile();
 }
