@@ -2,9 +2,9 @@
 
 #include "system_pattern.h"
 
-#include <utility>
-
 #include <QCoreApplication>
+
+#include <utility>
 
 static const QLatin1String token_separator("|");
 static constexpr QChar statement_end = u';';
