@@ -4,12 +4,12 @@
 #include "console.h"
 #include "exit_status.h"
 #include "headless_game.h"
+#include "output_device.h"
 #include "play_options.h"
 #include "progress_bar.h"
 #include "run_summary.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
 
@@ -37,22 +37,22 @@ static QString write_fault(const QString& path, const QFileDevice& file)
     return QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
 }
 
-static bool write_all(QFileDevice& file, const QByteArray& text)
+static bool write_all(QFileDevice& file, QIODevice::OpenMode mode, const QByteArray& text)
 {
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush();
+    return file.open(mode) && file.write(text) == text.size() && file.flush();
 }
 
 /// A file is replaced as a whole; a device or pipe is written to, never replaced.
 static QString write_summary(const QString& path, const headless_game& game)
 {
     const QByteArray text = QJsonDocument(run_summary::to_json(game)).toJson();
-    const QFileInfo target(path);
-    if (target.exists() && !target.isFile()) {
+    if (is_output_device(path)) {
         QFile device(path);
-        return write_all(device, text) ? QString() : write_fault(path, device);
+        return write_all(device, device_mode(path), text) ? QString() : write_fault(path, device);
     }
     QSaveFile file(path);
-    return write_all(file, text) && file.commit() ? QString() : write_fault(path, file);
+    return write_all(file, QIODevice::WriteOnly, text) && file.commit() ? QString()
+                                                                        : write_fault(path, file);
 }
 
 /// "FILE:LINE: error: TEXT" for every system that ended with one. Returns whether there was any.

@@ -1,11 +1,14 @@
 #include "run_trace.h"
 
+#include "output_device.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
 bool run_trace::open(const QString& path)
 {
     file.setFileName(path);
+    if (is_output_device(path)) return file.open(device_mode(path));
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate);
 }
 

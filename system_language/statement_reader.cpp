@@ -5,8 +5,6 @@
 
 #include <QStringList>
 
-#include <optional>
-
 static bool begins(const QString& token, const char* word)
 {
     return token.startsWith(QLatin1String(word), Qt::CaseInsensitive);

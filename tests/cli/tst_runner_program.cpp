@@ -23,6 +23,7 @@ private slots:
     void a_protocol_is_written_on_at_its_end();
     void a_full_disk_is_told();
     void a_full_disk_is_told_data();
+    void standard_output_is_written_to_and_not_replaced();
     void the_trace_tells_bets_and_figures();
     void a_hand_change_has_no_figures();
     void prison_is_told_after_the_coup();
@@ -225,6 +226,31 @@ void tst_runner_program::a_full_disk_is_told()
         {"play", "--system", "red.syf", "--numbers", "three.inp", "--quiet", option, "/dev/full"});
     QCOMPARE(answer.status, 2);
     QVERIFY2(answer.errors.contains("cannot write /dev/full"), qPrintable(answer.errors));
+}
+
+void tst_runner_program::standard_output_is_written_to_and_not_replaced()
+{
+    if (!QFile::exists("/dev/stdout")) QSKIP("no name for standard output");
+    write_file("answer.txt", "before\n");
+    QProcess runner;
+    runner.setStandardOutputFile("answer.txt", QIODevice::Append);
+    runner.start(QStringLiteral(ZARVELLO_RUNNER),
+                 {"play",
+                  "--system",
+                  "red.syf",
+                  "--numbers",
+                  "three.inp",
+                  "--quiet",
+                  "--trace",
+                  "/dev/stdout",
+                  "--summary",
+                  "/dev/stdout"});
+    QVERIFY(runner.waitForFinished());
+    QCOMPARE(runner.exitCode(), 0);
+    const QByteArray answer = read_file("answer.txt");
+    QVERIFY(answer.startsWith("before\n{"));
+    QCOMPARE(answer.count("\"number\":"), 4); // three coups and the closing object
+    QVERIFY(answer.contains("\"end_credit\": 2001"));
 }
 
 void tst_runner_program::the_trace_tells_bets_and_figures()
