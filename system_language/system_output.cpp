@@ -64,9 +64,9 @@ private:
         append(digits.data(), static_cast<int>(last - digits.data()), figure_width);
     }
 
-    static constexpr qint64 narrow_limit = 100'000'000'000; // 11 digits and a sign fit a column
-    static constexpr int longest_figure = 20;               // digits and sign of a qint64
-    static constexpr int line_end = 3;                      // two blanks and the end of the line
+    static constexpr qint64 narrow_limit = 100000000000; // 11 digits and a sign fit a column
+    static constexpr int longest_figure = 20;            // digits and sign of a qint64
+    static constexpr int line_end = 3;                   // two blanks and the end of the line
 
     std::array<char, number_width + 3 * longest_figure + line_end> characters;
     char* end = characters.data();

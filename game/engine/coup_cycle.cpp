@@ -53,6 +53,7 @@ void coup_cycle::close_bets()
     }
     coup_running = true;
     coup_due = false;
+    coup_form = settings.form();
     table.set_may_set_for_all(false);
 
     const unsigned earlier_stops = stops;
@@ -95,6 +96,7 @@ void coup_cycle::throw_finished()
     collect_count = 0;
     evaluation_open = true;
     coup_rules = rules_of(settings);
+    coup_rules.form = coup_form; // the wheel and the table are still those of the throw
     host.count_scores(property, table.evaluate(property, coup_rules));
 }
 

@@ -119,6 +119,7 @@ private:
     bool evaluation_open = false; // scores are being counted
     int collect_count = 0;        // players whose score is counted
     table_rules coup_rules;       // the rules at the evaluation hold to the end of the coup
+    table_form coup_form = table_form::french; // of the table on which the bets closed
     int active_number = -1;
     int open_system_rounds = -1;
     player_flags round_open{};

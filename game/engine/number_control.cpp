@@ -3,6 +3,9 @@
 #include "announcements.h"
 #include "players_control.h"
 #include "setting.h"
+#include "table_regions.h"
+
+#include <mutex>
 
 using general_player::player_names;
 
@@ -43,6 +46,23 @@ number_control::number_control(const game_table& table, const setting& settings,
 const QVector<jetons::ext_jeton_names>& number_control::hit_list(int number) const
 {
     return hit_announcements(number, game_setting.form());
+}
+
+void number_control::set_remove_jeton_via_table_point(general_setting::setting_jeton_action action,
+                                                      QPoint point)
+{
+    // A click that comes out of the handling of another one must not wait for it.
+    const std::unique_lock<QMutex> click(click_guard, std::try_to_lock);
+    if (!click.owns_lock()) return;
+
+    const player_names player = accounts.active_player();
+    if (player == general_player::NO_PLAYER) return;
+    const table_hit hit = chance_at(point, reduction, game_setting.form());
+    if (hit.jeton != jetons::NO_JETON) {
+        emit jeton_type_on_pos(action, hit.jeton, player, 1);
+    } else if (hit.announcement != jetons::NO_EXT_JETON) {
+        set_remove_ext_jeton_via_ext_jeton_name(action, hit.announcement, player, 1);
+    }
 }
 
 void number_control::set_remove_ext_jeton_via_ext_jeton_name(

@@ -5,6 +5,8 @@
 #include "jetons.h"
 #include "number_hit_property.h"
 
+#include <QString>
+
 #include <array>
 #include <cstddef>
 #include <initializer_list>
@@ -193,6 +195,12 @@ constexpr const number_hit_property& property_of(int number)
 {
     if (!number_code::is_number(number)) return number_records::no_record;
     return number_records::table[static_cast<std::size_t>(number)].hits;
+}
+
+/// How a number is written: "00" for the double zero, else its digits.
+inline QString number_text(int number)
+{
+    return number == number_code::double_zero ? QStringLiteral("00") : QString::number(number);
 }
 
 /// The colour of a number. A hand change mark is black, so that its line stands in the black

@@ -1,5 +1,6 @@
 #include "numberstorage.h"
 
+#include "number_records.h"
 #include "setting.h"
 #include "start_modes.h"
 
@@ -168,8 +169,7 @@ void numberStorage::cancel_number_not_on_table()
 
 QString numberStorage::manual_number_text() const
 {
-    const bool is_double_zero = manual_number == number_code::double_zero;
-    return is_double_zero ? QStringLiteral("00") : QString::number(manual_number);
+    return number_text(manual_number);
 }
 
 QString numberStorage::hand_change_text() const

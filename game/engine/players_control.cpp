@@ -1,6 +1,7 @@
 #include "players_control.h"
 
 #include "chance_geometry.h"
+#include "settings_rules.h"
 
 #include <array>
 
@@ -29,9 +30,16 @@ players_control& players_control::instance()
     return shared;
 }
 
-players_control::players_control(QObject* parent)
+players_control::players_control(const setting& settings, QObject* parent)
     : QObject(parent)
+    , game_setting(settings)
 {
+    accounts.set_listener(this);
+}
+
+void players_control::reset()
+{
+    accounts = game_table();
     accounts.set_listener(this);
 }
 
@@ -73,7 +81,11 @@ void players_control::player_add_score_to_credit(player_names player, int amount
 
 void players_control::players_finished_with_set()
 {
-    const player_sums seeded = accounts.close_bets();
+    tell_seeded(accounts.close_bets());
+}
+
+void players_control::tell_seeded(const player_sums& seeded)
+{
     emit players_seeded_to_storage(seeded[0], seeded[1], seeded[2], seeded[3]);
 }
 
@@ -89,8 +101,10 @@ void players_control::increase_jeton_value(jeton_info info)
     if (!accounts.account_of(info.player).may_set) return;
     const player_names active = accounts.active_player();
     if (active == general_player::NO_PLAYER) return;
-    const int pieces = info.player == active ? info.count : 1;
-    accounts.set_jeton(active, info.jeton, info.value, pieces, debit::from_credit);
+    const bool is_own = info.player == active;
+    const int value =
+        is_own ? info.value : piece_value(game_setting, accounts.account_of(active).is_system);
+    accounts.set_jeton(active, info.jeton, value, is_own ? info.count : 1, debit::from_credit);
 }
 
 void players_control::decrease_jeton_value(jeton_info info)

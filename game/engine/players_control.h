@@ -2,6 +2,7 @@
 #define PLAYERS_CONTROL_H
 
 #include "game_table.h"
+#include "setting.h"
 
 #include <QObject>
 #include <QPoint>
@@ -20,10 +21,16 @@ public:
     /// The shared object of the program.
     static players_control& instance();
 
-    explicit players_control(QObject* parent = nullptr);
+    /// A table of four humans without money. The settings tell the worth of a piece and must
+    /// outlive the object.
+    explicit players_control(const setting& settings = setting::instance(),
+                             QObject* parent = nullptr);
 
     game_table& table() { return accounts; }
     const game_table& table() const { return accounts; }
+
+    /// Everything as at the start of the program: four humans without money, nothing on the table.
+    void reset();
 
     /// Scale reduction of the screen, 0.0 to 0.3.
     void set_reduction(double new_reduction) { reduction = new_reduction; }
@@ -33,6 +40,9 @@ public:
 
     /// Replay of one player, over and over; stays off for a system player.
     void toggle_replay(general_player::player_names player);
+
+    /// Sends the sums that were seeded when the bets closed.
+    void tell_seeded(const player_sums& seeded);
 
     /// Replay on for every human, or off for all.
     void set_replay_for_all(bool on);
@@ -44,10 +54,11 @@ public slots:
     /// Takes a step of the counted score into the credit.
     void player_add_score_to_credit(general_player::player_names player, int amount);
 
-    /// The bets are closed: tells the seeded sums and remembers the bets.
+    /// Closes the bets: tells the seeded sums and remembers the bets. Who plays by `coup_cycle`
+    /// has it done there.
     void players_finished_with_set();
 
-    /// Sets the replay bets again.
+    /// Sets the replay bets again. Who plays by `coup_cycle` has it done there.
     void checksReplay();
 
     /// One more piece on the jeton for its owner, or for the active player at the same place.
@@ -75,6 +86,7 @@ signals:
 private:
     void check_status_replay() override { emit checkStatusReplay(); }
 
+    const setting& game_setting;
     game_table accounts;
     double reduction = 0.0;
 };

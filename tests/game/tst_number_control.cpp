@@ -31,6 +31,14 @@ private slots:
     void a_removal_is_never_refused();
     void a_system_player_is_never_refused();
     void without_a_player_nothing_happens();
+    void a_click_sends_the_chance_at_its_point_data();
+    void a_click_sends_the_chance_at_its_point();
+    void a_click_follows_the_scale_and_the_form();
+    void a_click_on_an_announcement_lays_it_out();
+    void a_click_beside_every_field_sends_nothing_data();
+    void a_click_beside_every_field_sends_nothing();
+    void a_click_belongs_to_the_active_player();
+    void a_click_out_of_a_click_is_dropped();
     void the_announcements_of_a_number_are_told_data();
     void the_announcements_of_a_number_are_told();
     void a_system_lays_pieces_of_value_one_data();
@@ -270,6 +278,118 @@ void tst_number_control::without_a_player_nothing_happens()
         desk.set("EN17", action, NO_PLAYER, 1);
     }
     QVERIFY(desk.sent.isEmpty() && desk.drawn.isEmpty() && desk.refused.isEmpty());
+}
+
+void tst_number_control::a_click_sends_the_chance_at_its_point_data()
+{
+    QTest::addColumn<setting_jeton_action>("action");
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<QString>("jeton");
+    // clang-format off
+    QTest::newRow("left click")   << SET_JETON    << QPoint(668, 317) << "PL07";
+    QTest::newRow("right click")  << REMOVE_JETON << QPoint(729, 604) << "TS02";
+    QTest::newRow("hover")        << SELECT_JETON << QPoint(575, 734) << "EC03";
+    QTest::newRow("street")       << SET_JETON    << QPoint(792, 574) << "TP03";
+    QTest::newRow("0/2/3")        << SET_JETON    << QPoint(830, 490) << "TP02";
+    // clang-format on
+}
+
+void tst_number_control::a_click_sends_the_chance_at_its_point()
+{
+    QFETCH(setting_jeton_action, action);
+    QFETCH(QPoint, point);
+    QFETCH(QString, jeton);
+    control_desk desk(false);
+    desk.control.set_remove_jeton_via_table_point(action, point);
+    QCOMPARE(desk.sent, QStringList{jeton});
+    QCOMPARE(desk.details, QStringList{QString("%1 0 1").arg(action)});
+    QVERIFY(desk.drawn.isEmpty());
+}
+
+void tst_number_control::a_click_follows_the_scale_and_the_form()
+{
+    // At 0.3 the 7 lies from x 467 to 488 and y 221 to 266.
+    control_desk desk(true);
+    desk.control.set_reduction(0.3);
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(467, 221));
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(488, 266));
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(467, 220));
+    QCOMPARE(desk.sent, (QStringList{"PL07", "PL07"}));
+    desk.control.set_reduction(0.0);
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(860, 500));
+    QCOMPARE(desk.sent.last(), QString("PL37"));
+    desk.settings.set_s_table_form(0);
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(860, 500));
+    QCOMPARE(desk.sent.last(), QString("PL00"));
+}
+
+void tst_number_control::a_click_on_an_announcement_lays_it_out()
+{
+    control_desk desk(false);
+    const QPoint kleine_serie(950, 420);
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, kleine_serie);
+    QCOMPARE(desk.sent.join(' '), QString("CH08 CH43 CH16 CH52 CH30 CH36"));
+    QCOMPARE(desk.details.count(QString("%1 0 1").arg(SET_JETON)), 6);
+    desk.control.set_remove_jeton_via_table_point(SELECT_JETON, kleine_serie);
+    QCOMPARE(desk.drawn, QStringList{"KS"});
+    QCOMPARE(desk.sent.size(), 6);
+    desk.table.set_credit(PLAYER_1, 5);
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, kleine_serie);
+    QCOMPARE(desk.refused, QList<int>{6});
+    QCOMPARE(desk.sent.size(), 6);
+}
+
+void tst_number_control::a_click_beside_every_field_sends_nothing_data()
+{
+    QTest::addColumn<bool>("american");
+    QTest::addColumn<QPoint>("point");
+    QTest::newRow("between the dozens") << false << QPoint(590, 630);
+    QTest::newRow("beside the net") << false << QPoint(604, 400);
+    QTest::newRow("row of the finals") << false << QPoint(950, 550);
+    QTest::newRow("announcement of the other form") << true << QPoint(950, 420);
+    QTest::newRow("outside") << true << QPoint(-1, -1);
+}
+
+void tst_number_control::a_click_beside_every_field_sends_nothing()
+{
+    QFETCH(bool, american);
+    QFETCH(QPoint, point);
+    control_desk desk(american);
+    for (const setting_jeton_action action : {SET_JETON, REMOVE_JETON, SELECT_JETON})
+        desk.control.set_remove_jeton_via_table_point(action, point);
+    QVERIFY(desk.sent.isEmpty() && desk.drawn.isEmpty() && desk.refused.isEmpty());
+}
+
+void tst_number_control::a_click_belongs_to_the_active_player()
+{
+    control_desk desk(false);
+    desk.table.make_active(PLAYER_2);
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(700, 620));
+    QCOMPARE(desk.sent, QStringList{"DZ01"});
+    QCOMPARE(desk.details, QStringList{QString("%1 1 1").arg(SET_JETON)});
+    for (int i = 0; i < general_player::player_count; ++i)
+        desk.table.make_system_player(static_cast<player_names>(i));
+    QCOMPARE(desk.table.active_player(), NO_PLAYER);
+    for (const setting_jeton_action action : {SET_JETON, REMOVE_JETON, SELECT_JETON}) {
+        desk.control.set_remove_jeton_via_table_point(action, QPoint(700, 620));
+        desk.control.set_remove_jeton_via_table_point(action, QPoint(950, 420));
+    }
+    QCOMPARE(desk.sent.size(), 1);
+    QVERIFY(desk.drawn.isEmpty() && desk.refused.isEmpty());
+}
+
+void tst_number_control::a_click_out_of_a_click_is_dropped()
+{
+    control_desk desk(false);
+    const QMetaObject::Connection nested =
+        connect(&desk.control, &number_control::jeton_type_on_pos, &desk.control, [&desk] {
+            desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(60, 320));
+        });
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(700, 620));
+    QCOMPARE(desk.sent, QStringList{"DZ01"});
+    QVERIFY(disconnect(nested));
+    desk.control.set_remove_jeton_via_table_point(SET_JETON, QPoint(60, 320));
+    QCOMPARE(desk.sent, (QStringList{"DZ01", "KL01"}));
 }
 
 void tst_number_control::the_announcements_of_a_number_are_told_data()

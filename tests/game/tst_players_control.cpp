@@ -53,6 +53,7 @@ private:
         return {player, jeton, value, 1};
     }
 
+    setting settings;
     std::unique_ptr<players_control> players;
     game_table* table = nullptr;
 };
@@ -64,7 +65,8 @@ void tst_players_control::initTestCase()
 
 void tst_players_control::init()
 {
-    players = std::make_unique<players_control>();
+    settings.set_s_setzart(0);
+    players = std::make_unique<players_control>(settings);
     table = &players->table();
     for (int i = 0; i < player_count; ++i)
         table->set_credit(static_cast<player_names>(i), 100);
@@ -203,20 +205,25 @@ void tst_players_control::a_held_button_adds_until_the_credit_is_used_up()
 
 void tst_players_control::a_click_on_another_players_jeton_sets_the_own_data()
 {
+    QTest::addColumn<int>("setzart");
     QTest::addColumn<int>("own_pieces"); // of 2 each, before the click
     QTest::addColumn<qint64>("credit");
-    // The jeton of the other player is worth 5 a piece.
+    // The jeton of the other player is worth 5 a piece; a new one is worth what the own pieces are.
     // clang-format off
-    QTest::newRow("none lies there") << 0 << qint64{95};
-    QTest::newRow("one lies there")  << 1 << qint64{96};
-    QTest::newRow("three lie there") << 3 << qint64{92};
+    QTest::newRow("none lies there, pieces of 1")  << 0 << 0 << qint64{99};
+    QTest::newRow("none lies there, pieces of 10") << 1 << 0 << qint64{90};
+    QTest::newRow("one lies there")                << 1 << 1 << qint64{96};
+    QTest::newRow("three lie there")               << 0 << 3 << qint64{92};
     // clang-format on
 }
 
 void tst_players_control::a_click_on_another_players_jeton_sets_the_own()
 {
+    QFETCH(int, setzart);
     QFETCH(int, own_pieces);
     QFETCH(qint64, credit);
+    settings.set_s_setzart(setzart);
+    settings.set_s_setzart_real_size(10);
     table->set_jeton(PLAYER_1, jetons::EC02, 2, own_pieces, debit::from_credit);
     table->set_jeton(PLAYER_2, jetons::EC02, 5, 4, debit::from_credit);
     players->increase_jeton_value({PLAYER_2, jetons::EC02, 5, 4});
