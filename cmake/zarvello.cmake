@@ -56,13 +56,21 @@ function(zarvello_link_optimised target)
     endif()
 endfunction()
 
-# A floor of the house. Exports its own folder and nothing else; what it may know is what it links.
+# A floor of the house. Exports its own folders and nothing else; what it may know is what it links.
+# FOLDERS beside the current one belong to it too. Forms are looked for in forms/.
 # The empty fence program links the whole library: a call upwards does not link there.
 function(zarvello_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;FOLDERS;LINK" ${ARGN})
+    set(folders "${CMAKE_CURRENT_SOURCE_DIR}" ${ARG_FOLDERS})
+    foreach(folder ${ARG_FOLDERS})
+        file(GLOB sources CONFIGURE_DEPENDS "${folder}/*.cpp" "${folder}/*.h")
+        list(APPEND ARG_SOURCES ${sources})
+    endforeach()
     add_library(${name} STATIC ${ARG_SOURCES})
-    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_include_directories(${name} PUBLIC ${folders})
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    set_target_properties(${name} PROPERTIES
+        AUTOUIC ON AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/forms")
     zarvello_compile_options(${name})
     if(ZARVELLO_TESTS)
         add_executable(fence_${name} "${PROJECT_SOURCE_DIR}/cmake/empty_main.cpp")
