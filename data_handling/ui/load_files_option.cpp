@@ -38,6 +38,7 @@ load_files_option::load_files_option(numberStorage& numbers,
     connect(wait_timer, &QTimer::timeout, this, &load_files_option::display_blink_wait_load_label);
 
     ui->setupUi(this);
+    show_disabled_texts_legibly();
     setWindowIcon(QIcon(QStringLiteral(":/general/grafik/icon/Roul10.ico")));
     path_edits = {ui->LE_loadfile_main,
                   ui->LE_loadfile_follow_1,
@@ -84,6 +85,20 @@ load_files_option::load_files_option(numberStorage& numbers,
     show_collection();
     enable_widgets();
     remember_full_size();
+}
+
+/// The files of a collection stand in fields that are disabled, and are read all the same.
+void load_files_option::show_disabled_texts_legibly()
+{
+    QPalette colours = palette();
+    const QColor text = colours.color(QPalette::Active, QPalette::Text);
+    const QColor base = colours.color(QPalette::Active, QPalette::Window);
+    colours.setColor(QPalette::Disabled,
+                     QPalette::Text,
+                     QColor((2 * text.red() + base.red()) / 3,
+                            (2 * text.green() + base.green()) / 3,
+                            (2 * text.blue() + base.blue()) / 3));
+    setPalette(colours);
 }
 
 load_files_option::~load_files_option()

@@ -312,9 +312,18 @@ void Options::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
 }
 
+/// The columns may grow with a language that is tried, but not shrink: the next radio button
+/// stays under the mouse.
+void Options::keep_column_widths()
+{
+    for (QWidget* box : {ui->GB_general, ui->GB_statistic})
+        box->setMinimumWidth(box->width());
+}
+
 void Options::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
+        if (isVisible()) keep_column_widths();
         ui->retranslateUi(this);
         if (isVisible()) fit_to_screen();
     }

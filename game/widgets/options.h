@@ -78,6 +78,7 @@ private:
     void bind_output_options();
     void bind_statistic_options(const QStringList& years);
     void bind_bet_time();
+    void keep_column_widths();
     void bind_short_throw();
     void bind_piece_size();
 
