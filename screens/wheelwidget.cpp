@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
+#include <QOpenGLFunctions>
 #include <QOpenGLWidget>
 #include <QPropertyAnimation>
 #include <QRandomGenerator>
@@ -27,18 +28,39 @@ constexpr double turns_of_the_wheel = 2 * full_turn;
 constexpr double ball_offset = 1.0; ///< the ball lies this far behind the middle of its pocket
 const QColor cloth_colour(0x0b, 0x4a, 0x2c);
 
-/// A viewport of OpenGL without a context leaves the whole window black, so it is tried once.
-bool open_gl_works()
+/// True if the current context has no graphics card behind it.
+bool is_drawn_by_the_processor(QOpenGLContext& context)
 {
-    static const bool works = [] {
+    const auto* name = reinterpret_cast<const char*>(context.functions()->glGetString(GL_RENDERER));
+    const QString renderer = QString::fromLatin1(name);
+    for (const char* in_software : {"llvmpipe",
+                                    "softpipe",
+                                    "swrast",
+                                    "Software Rasterizer",
+                                    "SwiftShader",
+                                    "Microsoft Basic Render",
+                                    "GDI Generic"}) {
+        if (renderer.contains(QLatin1String(in_software), Qt::CaseInsensitive)) return true;
+    }
+    return false;
+}
+
+/// Tried once. A viewport of OpenGL without a context leaves the whole window black. Without a
+/// graphics card it makes every repaint of the window, even of a jeton, twenty times as dear,
+/// since all of the window is then put together by OpenGL; only who asks Qt for OpenGL in software
+/// gets it.
+bool open_gl_helps()
+{
+    static const bool helps = [] {
         QOpenGLContext context;
         if (!context.create()) return false;
         QOffscreenSurface surface;
         surface.setFormat(context.format());
         surface.create();
-        return surface.isValid() && context.makeCurrent(&surface);
+        if (!surface.isValid() || !context.makeCurrent(&surface)) return false;
+        return qgetenv("QT_OPENGL") == "software" || !is_drawn_by_the_processor(context);
     }();
-    return works;
+    return helps;
 }
 
 QLabel* picture_label(const QString& path, double reduction, qreal pixel_ratio, const QSize& size)
@@ -85,7 +107,7 @@ wheelWidget::wheelWidget(QWidget* parent, double reduction, bool american_wheel)
 
 void wheelWidget::set_up_view(int side)
 {
-    if (open_gl_works()) {
+    if (open_gl_helps()) {
         auto* gl_viewport = new QOpenGLWidget;
         gl_viewport->setUpdateBehavior(QOpenGLWidget::PartialUpdate);
         setViewport(gl_viewport);

@@ -283,7 +283,7 @@ void Options::on_buttonBox_accepted()
 {
     for (const auto& copy : copies)
         copy();
-    const bool is_written = settings.write_settings();
+    const bool is_written = write_file();
     emit ini_value_changend();
     accept();
     if (is_written) return;
@@ -293,6 +293,18 @@ void Options::on_buttonBox_accepted()
         tr("Die Datei zarvello.ini konnte nicht geschrieben werden!\nDie Einstellungen "
            "gelten nur bis zum Ende des Programms."),
         QMessageBox::Warning);
+}
+
+/// What a super short game has borrowed stays out of the file.
+bool Options::write_file()
+{
+    const bool* const kept = short_throw ? short_throw() : nullptr;
+    if (!kept) return settings.write_settings();
+    const bool borrowed = settings.s_su_shortthrow_activ();
+    settings.set_s_su_shortthrow_activ(*kept);
+    const bool is_written = settings.write_settings();
+    settings.set_s_su_shortthrow_activ(borrowed);
+    return is_written;
 }
 
 void Options::on_buttonBox_rejected()

@@ -99,6 +99,7 @@ private:
     void touch_when_chosen(QRadioButton* button, QWidget* shown_beside);
     void try_language_when_chosen(QRadioButton* button, general_setting::setting_language language);
     void fit_to_screen();
+    bool write_file();
 
     std::unique_ptr<Ui::Options> ui;
     setting& settings;

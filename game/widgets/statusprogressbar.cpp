@@ -298,10 +298,11 @@ StatusProgressBar::bar_change StatusProgressBar::wait_for_user()
 StatusProgressBar::bar_change StatusProgressBar::open_short_coup()
 {
     bar_change change = change_nothing();
+    const bool is_polling = paused && state == bar_state::paused && value() == maximum();
     update_timer->stop();
     enter(bar_state::super_short);
     change.new_value = maximum();
-    change.repaint = true;
+    change.repaint = !is_polling;
     change.start_throw = !paused;
     if (paused) {
         state = bar_state::paused;
