@@ -57,7 +57,7 @@ function(zarvello_link_optimised target)
 endfunction()
 
 # A floor of the house. Exports its own folders and nothing else; what it may know is what it links.
-# FOLDERS beside the current one belong to it too. Forms are looked for in forms/.
+# FOLDERS beside the current one belong to it too.
 # The empty fence program links the whole library: a call upwards does not link there.
 function(zarvello_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;FOLDERS;LINK" ${ARGN})
@@ -69,8 +69,6 @@ function(zarvello_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${folders})
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
-    set_target_properties(${name} PROPERTIES
-        AUTOUIC ON AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/forms")
     zarvello_compile_options(${name})
     if(ZARVELLO_TESTS)
         add_executable(fence_${name} "${PROJECT_SOURCE_DIR}/cmake/empty_main.cpp")
