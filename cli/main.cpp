@@ -1,3 +1,4 @@
+#include "check_command.h"
 #include "console.h"
 #include "exit_status.h"
 #include "play_command.h"
@@ -15,6 +16,7 @@ static const char usage_text[] =
     "\n"
     "  play    let up to four systems play recorded or random numbers\n"
     "  tokens  print what every statement of a system file compiles to\n"
+    "  check   print all faults of system files, and what is hardly meant\n"
     "\n"
     "'zarvello-cli COMMAND --help' tells the options of a command.\n";
 
@@ -24,6 +26,7 @@ static int run_command(QStringList arguments)
     if (arguments.size() > 1) arguments.removeAt(1);
     if (command == QLatin1String("play")) return run_play_command(arguments);
     if (command == QLatin1String("tokens")) return run_tokens_command(arguments);
+    if (command == QLatin1String("check")) return run_check_command(arguments);
 
     const bool is_help = command == QLatin1String("--help") || command == QLatin1String("-h");
     if (is_help) {

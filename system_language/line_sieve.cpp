@@ -68,39 +68,55 @@ line_sieve::line_sieve(const system_pattern& patterns)
 {
 }
 
-sys_result_info line_sieve::check_lines(const QList<section_line>& lines, int table_type) const
+static QString without_ends(QString text)
 {
-    const QString first_line = lines.isEmpty() ? QString() : lines.first().text;
-    if (!holds_section(first_line)) {
-        const section_line told{1, first_line};
-        sys_result_info result =
-            error_in(told, tr("Code ohne Sektion nicht zuflässig!"), first_line);
-        result.mark_mode = system_status::mark_line;
-        return result;
-    }
-    for (int index = 0; index < lines.size(); ++index) {
-        const sys_result_info result = check_line(lines.at(index), index + 1, table_type);
-        if (result.status != system_status::all_right) return result;
-    }
-    return {};
+    return text.remove(u';');
 }
 
-sys_result_info line_sieve::check_line(const section_line& line, int position, int table_type) const
+sys_result_info line_sieve::check_lines(const QList<section_line>& lines, int table_type) const
 {
-    QString text = line.text;
-    text.remove(u';');
-    const QString foreign_jeton = jeton_of_other_table(text, table_type);
-    if (!foreign_jeton.isEmpty()) {
-        const QString message =
-            table_type == french_table
-                ? tr("Französischer Tisch aktiv - Amerikanische Setzungen gefunden!")
-                : tr("Amerikanischer Tisch aktiv - Französische Setzungen gefunden!");
-        return error_in(line, message, foreign_jeton);
+    sys_result_info result = check_begin(lines);
+    for (int index = 0; index < lines.size(); ++index) {
+        if (result.status != system_status::all_right) break;
+        result = check_jetons(lines.at(index), table_type);
+        if (result.status != system_status::all_right) break;
+        result = check_tokens(lines.at(index));
+        if (result.status != system_status::all_right) log_remainder(index + 1, result.mark_text);
     }
-    const QString rest = remainder(text);
-    if (rest.isEmpty()) return {};
-    log_remainder(position, rest);
-    return error_in(line, tr("Syntax Fehler!"), rest);
+    return result;
+}
+
+sys_result_info line_sieve::check_begin(const QList<section_line>& lines) const
+{
+    const QString first_line = lines.isEmpty() ? QString() : lines.first().text;
+    if (holds_section(first_line)) return {};
+    const section_line told{1, first_line};
+    sys_result_info result = error_in(told, tr("Code ohne Sektion nicht zuflässig!"), first_line);
+    result.mark_mode = system_status::mark_line;
+    return result;
+}
+
+sys_result_info line_sieve::check_line(const section_line& line, int table_type) const
+{
+    const sys_result_info result = check_jetons(line, table_type);
+    return result.status == system_status::all_right ? check_tokens(line) : result;
+}
+
+sys_result_info line_sieve::check_jetons(const section_line& line, int table_type) const
+{
+    const QString foreign_jeton = jeton_of_other_table(without_ends(line.text), table_type);
+    if (foreign_jeton.isEmpty()) return {};
+    const QString message =
+        table_type == french_table
+            ? tr("Französischer Tisch aktiv - Amerikanische Setzungen gefunden!")
+            : tr("Amerikanischer Tisch aktiv - Französische Setzungen gefunden!");
+    return error_in(line, message, foreign_jeton);
+}
+
+sys_result_info line_sieve::check_tokens(const section_line& line) const
+{
+    const QString rest = remainder(without_ends(line.text));
+    return rest.isEmpty() ? sys_result_info() : error_in(line, tr("Syntax Fehler!"), rest);
 }
 
 bool line_sieve::holds_section(const QString& line) const

@@ -28,8 +28,15 @@ public:
     /// without a section keyword is told with line 1, whatever its number; so are no lines at all.
     sys_result_info check_lines(const QList<section_line>& lines, int table_type) const;
 
+    /// Whether the first line holds a section keyword. Status as above.
+    sys_result_info check_begin(const QList<section_line>& lines) const;
+
+    /// Looks at a single line, or a part of one, wherever it stands. Status as above.
+    sys_result_info check_line(const section_line& line, int table_type) const;
+
 private:
-    sys_result_info check_line(const section_line& line, int position, int table_type) const;
+    sys_result_info check_jetons(const section_line& line, int table_type) const;
+    sys_result_info check_tokens(const section_line& line) const;
     bool holds_section(const QString& line) const;
     QString jeton_of_other_table(const QString& text, int table_type) const;
     QString remainder(const QString& text) const;

@@ -26,9 +26,12 @@ static QList<section_line> cut_behind(QChar end, const QList<section_line>& line
             result.append(line);
             continue;
         }
-        const QStringList parts = line.text.split(end, Qt::SkipEmptyParts);
-        for (const QString& part : parts)
-            result.append({line.number, part + end});
+        int column = line.column;
+        const QStringList parts = line.text.split(end);
+        for (const QString& part : parts) {
+            if (!part.isEmpty()) result.append({line.number, part + end, column});
+            column += part.size() + 1;
+        }
     }
     return result;
 }
@@ -48,9 +51,13 @@ static QList<section_line> cut_keywords_from_statements(const QList<section_line
         const bool keyword_first = keyword_length < statement_length;
         const QChar cut = keyword_first ? keyword_end : statement_end;
         const QChar other = keyword_first ? statement_end : keyword_end;
+        int column = line.column;
         const QStringList parts = line.text.split(cut);
-        for (const QString& part : parts)
-            result.append({line.number, part.contains(other) ? part : QString(part + cut)});
+        for (const QString& part : parts) {
+            const bool has_other = part.contains(other);
+            result.append({line.number, has_other ? part : QString(part + cut), column});
+            column += part.size() + 1;
+        }
     }
     return result;
 }
@@ -60,16 +67,16 @@ static QList<section_line> join_statements(const QList<section_line>& lines)
 {
     QList<section_line> result;
     QStringList pieces;
-    int first_number = 0;
+    section_line first;
     for (const section_line& line : lines) {
         if (line.text.contains(keyword_end)) {
             result.append(line);
             continue;
         }
-        if (pieces.isEmpty()) first_number = line.number;
+        if (pieces.isEmpty()) first = line;
         pieces.append(line.text);
         if (!line.text.contains(statement_end)) continue;
-        result.append({first_number, pieces.join(blank)});
+        result.append({first.number, pieces.join(blank), first.column});
         pieces.clear();
     }
     return result;
@@ -94,7 +101,7 @@ static system_sections sort_statements(const QList<section_line>& lines,
     for (const section_line& line : lines) {
         const QString text = line.text.trimmed();
         if (!text.contains(keyword_end)) {
-            (sections.*section_by_index[current_section]).append({line.number, text});
+            (sections.*section_by_index[current_section]).append({line.number, text, line.column});
             continue;
         }
         const int index = section_index(text, keywords);
@@ -103,11 +110,15 @@ static system_sections sort_statements(const QList<section_line>& lines,
     return sections;
 }
 
-system_sections split_statements(const QList<section_line>& lines,
-                                 const QStringList& section_patterns)
+QList<section_line> cut_lines(const QList<section_line>& lines)
 {
     const QList<section_line> keyword_lines = cut_behind(keyword_end, lines);
     const QList<section_line> statement_lines = cut_behind(statement_end, keyword_lines);
-    const QList<section_line> single_lines = cut_keywords_from_statements(statement_lines);
-    return sort_statements(join_statements(single_lines), section_patterns);
+    return cut_keywords_from_statements(statement_lines);
+}
+
+system_sections split_statements(const QList<section_line>& lines,
+                                 const QStringList& section_patterns)
+{
+    return sort_statements(join_statements(cut_lines(lines)), section_patterns);
 }

@@ -13,6 +13,11 @@ struct system_sections {
     QList<section_line> section_al;
 };
 
+/// Cuts lines into parts, in the order of the file: a part with a ':' counts as a section keyword,
+/// one with a ';' ends a statement, and one with neither goes on in the next part that is no
+/// keyword. A part may have got its last character, ':' or ';', by the cut.
+QList<section_line> cut_lines(const QList<section_line>& lines);
+
 /// Cuts lines into statements and sorts them into sections.
 /// Statements keep their final ';' and have the number of the line on which they begin. Code in
 /// front of the first keyword belongs to the general section. A ':' or ';' within a message text

@@ -95,6 +95,7 @@ QString system_file_reader::behind_open_comment(const section_line& opening)
     result.mark_mode = system_status::mark_token;
     result.mark_text = comment_begin;
     result.line_text = opening.text;
+    code.open_comments.append(result);
     return {};
 }
 

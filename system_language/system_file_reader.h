@@ -10,6 +10,8 @@
 struct system_file_lines {
     QList<section_line> lines; ///< trimmed, without comments, none empty
     sys_result_info result;    ///< `all_right`, `file_not_opened` or `error`
+    QList<sys_result_info>
+        open_comments; ///< every `error` of the reading, in the order of the file
 };
 
 /// Reads the lines of a system file and takes the comments out.

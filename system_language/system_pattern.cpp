@@ -147,9 +147,10 @@ static QStringList message_table()
     // clang-format on
 }
 
-system_pattern::system_pattern(int table_type)
-    : section_patterns(section_table())
-    , jeton_patterns(jeton_table(table_type))
+system_pattern::system_pattern(int table_form)
+    : table_type(table_form)
+    , section_patterns(section_table())
+    , jeton_patterns(jeton_table(table_form))
     , argument_patterns(argument_table())
     , keyword_patterns(keyword_table())
     , argument_number_patterns{R"(\bAG[ ]*[(][ ]*\d{1,3}[ ]*[)])"}

@@ -16,12 +16,15 @@ class system_pattern : public QObject
     Q_OBJECT
 
 public:
-    /// @param table_type  0 French, 1 American; with any other value there are no jeton patterns
-    explicit system_pattern(int table_type);
+    /// @param table_form  0 French, 1 American; with any other value there are no jeton patterns
+    explicit system_pattern(int table_form);
 
     /// The shared object of the program, for the table that is set when it is first asked for; a
     /// later change of the table reaches it with the next start of the program. Thread-safe.
     static const system_pattern& instance();
+
+    /// The table of these patterns, as it was given.
+    int get_table_type() const { return table_type; }
 
     /// The four section keywords; the index is the section: 0 start, 1 win, 2 loss, 3 general.
     QStringList get_section_patterns() const { return section_patterns; }
@@ -48,6 +51,7 @@ public:
     QStringList get_message_patterns() const { return message_patterns; }
 
 private:
+    int table_type;
     QStringList section_patterns;
     QStringList jeton_patterns;
     QStringList argument_patterns;

@@ -330,6 +330,68 @@ Roulette and system games on the French and the American table.</translation>
         <source>Setzung konnte auf Grund Kaptialmangel nicht durchgeführt werden! Notwendiges Kapital wären %1 Einheiten!</source>
         <translation>The bet could not be placed for lack of capital! %1 units would be needed!</translation>
     </message>
+    <message>
+        <source>Protokolle</source>
+        <translation>Protocols</translation>
+    </message>
+    <message>
+        <source>Protokoll Spieler 1</source>
+        <translation>Protocol of player 1</translation>
+    </message>
+    <message>
+        <source>Protokoll Spieler 2</source>
+        <translation>Protocol of player 2</translation>
+    </message>
+    <message>
+        <source>Protokoll Spieler 3</source>
+        <translation>Protocol of player 3</translation>
+    </message>
+    <message>
+        <source>Protokoll Spieler 4</source>
+        <translation>Protocol of player 4</translation>
+    </message>
+    <message>
+        <source>Zarvello Warnung</source>
+        <translation>Zarvello Warning</translation>
+    </message>
+    <message>
+        <source>Es ist mindestens ein Systemspiel aktiv - aufgrund der Zurücksetzung wird ein Neustart des Systemspiels empfohlen!</source>
+        <translation>At least one system game is active - because of the reset a new start of the system game is recommended!</translation>
+    </message>
+    <message>
+        <source>Zarvello Systemspiel Nachricht</source>
+        <translation>Zarvello System Game Message</translation>
+    </message>
+    <message>
+        <source>Systemspiel für Spieler </source>
+        <translation>System game of player </translation>
+    </message>
+    <message>
+        <source> wurde gestoppt!
+</source>
+        <translation> was stopped!
+</translation>
+    </message>
+    <message>
+        <source> wurde beendet!</source>
+        <translation> was ended!</translation>
+    </message>
+    <message>
+        <source>Fehler: </source>
+        <translation>Error: </translation>
+    </message>
+    <message>
+        <source>Zeilennummer: </source>
+        <translation>Line number: </translation>
+    </message>
+    <message>
+        <source>Zeile: </source>
+        <translation>Line: </translation>
+    </message>
+    <message>
+        <source>Soll die Systemspieldatei geöffnet werden?</source>
+        <translation>Do you want to open the system file?</translation>
+    </message>
 </context>
 <context>
     <name>Options</name>
@@ -619,6 +681,276 @@ The settings hold only until the program ends.</translation>
     </message>
 </context>
 <context>
+    <name>editor_window</name>
+    <message>
+        <source>Error:</source>
+        <translation>Error:</translation>
+    </message>
+    <message>
+        <source>Datei</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Bearbeiten</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Öffnen...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Speichern unter...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message>
+        <source>Beenden</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Ausschneiden</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Einfügen</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Alles auswählen</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Suchen...</source>
+        <translation>Find...</translation>
+    </message>
+    <message>
+        <source>Weitersuchen</source>
+        <translation>Find next</translation>
+    </message>
+    <message>
+        <source>Rückwärts suchen</source>
+        <translation>Find previous</translation>
+    </message>
+    <message>
+        <source>Ersetzen...</source>
+        <translation>Replace...</translation>
+    </message>
+    <message>
+        <source>Gehe zu Zeile...</source>
+        <translation>Go to line...</translation>
+    </message>
+    <message>
+        <source>Prüfen</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>MoveCursor</source>
+        <translation>MoveCursor</translation>
+    </message>
+    <message>
+        <source>Zur Fehlerstelle springen</source>
+        <translation>Go to the place of the error</translation>
+    </message>
+    <message>
+        <source>Neue Datei</source>
+        <translation>New file</translation>
+    </message>
+    <message>
+        <source> (schreibgeschützt)</source>
+        <translation> (read-only)</translation>
+    </message>
+    <message>
+        <source>Wird geladen...</source>
+        <translation>Loading...</translation>
+    </message>
+    <message>
+        <source>Geändert</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>Fehler: %1, Warnungen: %2</source>
+        <translation>Errors: %1, warnings: %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1, Spalte %2</source>
+        <translation>Line %1, column %2</translation>
+    </message>
+    <message>
+        <source>Fehler: </source>
+        <translation>Error: </translation>
+    </message>
+    <message>
+        <source>Gehe zu Zeile</source>
+        <translation>Go to line</translation>
+    </message>
+    <message>
+        <source>Zeile:</source>
+        <translation>Line:</translation>
+    </message>
+    <message>
+        <source>Datei öffnen</source>
+        <translation>Open file</translation>
+    </message>
+    <message>
+        <source>Systemspieldateien (*.syf)</source>
+        <translation>System files (*.syf)</translation>
+    </message>
+    <message>
+        <source>Systemprotokolldateien (*.out)</source>
+        <translation>System protocols (*.out)</translation>
+    </message>
+    <message>
+        <source>Ladedateien (*.inp)</source>
+        <translation>Load files (*.inp)</translation>
+    </message>
+    <message>
+        <source>Sammelladedateien (*.snp)</source>
+        <translation>Collection load files (*.snp)</translation>
+    </message>
+    <message>
+        <source>Text Dateien (*.txt)</source>
+        <translation>Text files (*.txt)</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*.*)</source>
+        <translation>All files (*.*)</translation>
+    </message>
+    <message>
+        <source>Die aktive Hauptladedatei wurde geändert - Änderungen übernehmen und Hauptladedatei neu laden?</source>
+        <translation>The active main load file was changed - apply the changes and read the main load file again?</translation>
+    </message>
+    <message>
+        <source>Die aktive Systemspieldatei wurde geändert - Änderungen übernehmen und System neu starten?</source>
+        <translation>The active system file was changed - apply the changes and restart the system?</translation>
+    </message>
+    <message>
+        <source>Speichere unter...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 konnte nicht gespeichert werden!
+%2</source>
+        <translation>The file %1 could not be saved!
+%2</translation>
+    </message>
+    <message>
+        <source>Sollen die Änderungen gespeichert werden?</source>
+        <translation>Save the changes?</translation>
+    </message>
+</context>
+<context>
+    <name>find_bar</name>
+    <message>
+        <source>Suchen:</source>
+        <translation>Find:</translation>
+    </message>
+    <message>
+        <source>Ersetzen durch:</source>
+        <translation>Replace with:</translation>
+    </message>
+    <message>
+        <source>Weitersuchen</source>
+        <translation>Find next</translation>
+    </message>
+    <message>
+        <source>Rückwärts</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Ersetzen</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Alle ersetzen</source>
+        <translation>Replace all</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Groß-/Kleinschreibung</source>
+        <translation>Match case</translation>
+    </message>
+    <message>
+        <source>Nicht gefunden</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Suche am anderen Ende fortgesetzt</source>
+        <translation>Went on at the other end</translation>
+    </message>
+    <message>
+        <source>Ersetzt: %1</source>
+        <translation>Replaced: %1</translation>
+    </message>
+</context>
+<context>
+    <name>findings_list</name>
+    <message>
+        <source>Prüfergebnis</source>
+        <translation>Findings</translation>
+    </message>
+    <message>
+        <source>Art</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Zeile</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Spalte</source>
+        <translation>Column</translation>
+    </message>
+    <message>
+        <source>Meldung</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Keine Fehler gefunden</source>
+        <translation>No errors found</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Warning</translation>
+    </message>
+</context>
+<context>
+    <name>highlighter_icon</name>
+    <message>
+        <source>Syntax Highligther</source>
+        <translation>Syntax highlighter</translation>
+    </message>
+</context>
+<context>
     <name>line_sieve</name>
     <message>
         <source>Code ohne Sektion nicht zuflässig!</source>
@@ -762,6 +1094,21 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Sollen die neuen Ladedateien übernommen werden?</source>
         <translation>Do you want to use the new load files?</translation>
+    </message>
+</context>
+<context>
+    <name>menu_Window</name>
+    <message>
+        <source>Hauptladedatei</source>
+        <translation>Main load file</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei %1</source>
+        <translation>Follow file %1</translation>
+    </message>
+    <message>
+        <source>Spieler %1</source>
+        <translation>Player %1</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1259,45 @@ The settings hold only until the program ends.</translation>
     </message>
 </context>
 <context>
+    <name>statement_warnings</name>
+    <message>
+        <source>Hinter dem Setz Jeton fehlt der Strichpunkt, dieser Text wird nicht gelesen!</source>
+        <translation>The semicolon is missing behind the jeton to set, this text is not read!</translation>
+    </message>
+    <message>
+        <source>Hinter dem ersten Strichpunkt wird nichts gelesen, dieser Text geht verloren!</source>
+        <translation>Nothing is read behind the first semicolon, this text is lost!</translation>
+    </message>
+    <message>
+        <source>Hinter der MESSAGE fehlt der Strichpunkt, dieser Text wird ein Teil von ihr!</source>
+        <translation>The semicolon is missing behind the MESSAGE, this text becomes a part of it!</translation>
+    </message>
+    <message>
+        <source>%1 hat hier keine Wirkung, gemeint ist RESTART(N) oder RESTART(F)!</source>
+        <translation>%1 has no effect here, RESTART(N) or RESTART(F) is meant!</translation>
+    </message>
+    <message>
+        <source>%1 hat hier keine Wirkung, es begrenzt nur eine Änderung der Einheit wie EI1+1!</source>
+        <translation>%1 has no effect here, it only bounds a change of a unit such as EI1+1!</translation>
+    </message>
+    <message>
+        <source>Die Aufzählung endet mit einem Komma!</source>
+        <translation>The list ends with a comma!</translation>
+    </message>
+    <message>
+        <source>Die Option %1 hat keine Wirkung!</source>
+        <translation>The option %1 has no effect!</translation>
+    </message>
+    <message>
+        <source>UZ wählt hier immer den Platz 0, den es beim Jeton Typ %1 nicht gibt!</source>
+        <translation>UZ always chooses place 0 here, which the jeton type %1 does not have!</translation>
+    </message>
+    <message>
+        <source>Für %1 sind bei der ersten Ausführung zu wenige Coups gefallen (%2 von %3, Tipp: siehe Verzögerungsbedingungen)!</source>
+        <translation>Too few coups have been played for %1 when it is first run (%2 of %3, hint: see the conditions of delay)!</translation>
+    </message>
+</context>
+<context>
     <name>status_button</name>
     <message>
         <source>Aktiv</source>
@@ -935,6 +1321,33 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>S: Operator &apos;%1&apos; ist nicht gültig!</source>
         <translation>S: Operator &apos;%1&apos; is not valid!</translation>
+    </message>
+</context>
+<context>
+    <name>system_check</name>
+    <message>
+        <source>Ein &apos;%1&apos; in einer MESSAGE reißt die Anweisung auseinander!</source>
+        <translation>A &apos;%1&apos; in a MESSAGE tears the statement apart!</translation>
+    </message>
+    <message>
+        <source>Mit einem &apos;|&apos; in der MESSAGE wird die Anweisung nicht übersetzt!</source>
+        <translation>With a &apos;|&apos; in the MESSAGE the statement is not compiled!</translation>
+    </message>
+    <message>
+        <source>Ein &apos;,&apos; im Text einer MESSAGE trennt Argumente, der Text endet hier!</source>
+        <translation>A &apos;,&apos; in the text of a MESSAGE separates arguments, the text ends here!</translation>
+    </message>
+    <message>
+        <source>%1 beginnt keine Sektion, es muss groß geschrieben werden!</source>
+        <translation>%1 begins no section, it must be written in capitals!</translation>
+    </message>
+    <message>
+        <source>Ohne Strichpunkt in derselben Zeile geht dieser Text verloren!</source>
+        <translation>Without a semicolon in the same line this text is lost!</translation>
+    </message>
+    <message>
+        <source>Ohne Strichpunkt am Ende geht diese Anweisung verloren!</source>
+        <translation>Without a semicolon at its end this statement is lost!</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1568,128 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Bedingung STMAX in falscher Sektion gefunden!</source>
         <translation>Condition STMAX found in the wrong section!</translation>
+    </message>
+</context>
+<context>
+    <name>systemgame_monitor</name>
+    <message>
+        <source>SysMonitor</source>
+        <translation>System monitor</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>System aktiv</source>
+        <translation>System active</translation>
+    </message>
+    <message>
+        <source>Gewählte Zahl</source>
+        <translation>Chosen number</translation>
+    </message>
+    <message>
+        <source>Manuell</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Letzte Zahl</source>
+        <translation>Last number</translation>
+    </message>
+    <message>
+        <source>Wurf</source>
+        <translation>Throw</translation>
+    </message>
+    <message>
+        <source>Einheiten/Setzungen</source>
+        <translation>Units/Bets</translation>
+    </message>
+    <message>
+        <source>Spieler %1</source>
+        <translation>Player %1</translation>
+    </message>
+</context>
+<context>
+    <name>systemspiel_dialog</name>
+    <message>
+        <source>Systemspiel</source>
+        <translation>System game</translation>
+    </message>
+    <message>
+        <source>Spieler 1</source>
+        <translation>Player 1</translation>
+    </message>
+    <message>
+        <source>System aktiv</source>
+        <translation>System active</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Protokoll aktiv</source>
+        <translation>Protocol active</translation>
+    </message>
+    <message>
+        <source>Spieler 2</source>
+        <translation>Player 2</translation>
+    </message>
+    <message>
+        <source>Spieler 3</source>
+        <translation>Player 3</translation>
+    </message>
+    <message>
+        <source>Spieler 4</source>
+        <translation>Player 4</translation>
+    </message>
+    <message>
+        <source>Doppelklick links zur Auswahl</source>
+        <translation>Double-click to choose</translation>
+    </message>
+    <message>
+        <source>Zarvello Info</source>
+        <translation>Zarvello Info</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Systemspieldateien (*.syf)</source>
+        <translation>System files (*.syf)</translation>
+    </message>
+    <message>
+        <source>Öffnen oder Neu</source>
+        <translation>Open or new</translation>
+    </message>
+    <message>
+        <source>Systemprotokolldatei (*.out)</source>
+        <translation>System protocol file (*.out)</translation>
+    </message>
+    <message>
+        <source>Bitte zuerst die Systemspieldatei wählen!</source>
+        <translation>Please choose the system file first!</translation>
+    </message>
+    <message>
+        <source>Aktivierung nicht möglich, da ein normales Spiel für diesen Spieler aktiv (Jetons gesetzt) ist!</source>
+        <translation>Can&apos;t be activated: a normal game is active for this player (jetons are set)!</translation>
+    </message>
+    <message>
+        <source>Bitte zuerst die Systemprotokolldatei wählen!</source>
+        <translation>Please choose the system protocol file first!</translation>
+    </message>
+    <message>
+        <source>Bitte zuerst die Systemspieldatei aktivieren!</source>
+        <translation>Please activate the system file first!</translation>
+    </message>
+    <message>
+        <source>Systemspieldatei wurde geändert</source>
+        <translation>The system file was changed</translation>
+    </message>
+    <message>
+        <source>Die Systemspieldatei für Spieler%1 wurde geändert - Änderung beibehalten?</source>
+        <translation>The system file of player %1 was changed - keep the change?</translation>
     </message>
 </context>
 <context>

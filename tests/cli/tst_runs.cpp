@@ -12,11 +12,14 @@
 #include "command_settings.h"
 #include "headless_game.h"
 #include "play_options.h"
+#include "run_folder.h"
 #include "runner_process.h"
 #include "test_box.h"
 
 #include <QCommandLineParser>
 #include <QLoggingCategory>
+
+using namespace run_folder;
 
 class tst_runs : public QObject
 {
@@ -39,72 +42,6 @@ private:
 
 namespace
 {
-
-/// What belongs to one player of a run.
-struct run_seat {
-    int player = 0; // from 1
-    QString system;
-    QString expected;
-    QString played; // the protocol that the program writes
-};
-
-/// Enters a folder; leaves it for the one before at the end.
-class entered_folder
-{
-public:
-    explicit entered_folder(const QString& path) { QDir::setCurrent(path); }
-    ~entered_folder() { QDir::setCurrent(before); }
-    entered_folder(const entered_folder&) = delete;
-    entered_folder& operator=(const entered_folder&) = delete;
-
-private:
-    const QString before = QDir::currentPath();
-};
-
-QDir all_runs()
-{
-    return QDir(QStringLiteral(ZARVELLO_SOURCE_DIR "/tests/runs"));
-}
-
-QDir folder_of(const QString& run)
-{
-    return QDir(all_runs().filePath(run));
-}
-
-QStringList run_names()
-{
-    return all_runs().entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-}
-
-/// Seats in player order; empty if the folder holds no system.
-QList<run_seat> seats_of(const QDir& folder)
-{
-    if (folder.exists("system.syf")) return {{1, "system.syf", "expected.out", "played_1.out"}};
-    QList<run_seat> seats;
-    for (int player = 1; player <= general_player::player_count; ++player) {
-        const QString system = QStringLiteral("system_%1.syf").arg(player);
-        if (!folder.exists(system)) continue;
-        seats.append({player,
-                      system,
-                      QStringLiteral("expected_%1.out").arg(player),
-                      QStringLiteral("played_%1.out").arg(player)});
-    }
-    return seats;
-}
-
-/// The files with numbers in order of play; a collection stands for the files that it names.
-QStringList number_files_of(const QDir& folder)
-{
-    for (const char* alone : {"numbers.snp", "numbers.inp"}) {
-        if (folder.exists(alone)) return {alone};
-    }
-    QStringList files;
-    for (int place = 1;; ++place) {
-        const QString file = QStringLiteral("numbers_%1.inp").arg(place);
-        if (!folder.exists(file)) return files;
-        files.append(file);
-    }
-}
 
 /// The options of the command `play` for a run whose folder is the working directory.
 QStringList options_of(const QDir& folder)
