@@ -22,7 +22,10 @@ QString file_dialog::open_file(QWidget* parent, const request& what)
 QString file_dialog::save_file(QWidget* parent, const request& what)
 {
     if (stand_in_chooser()) return stand_in_chooser()(what);
-    return QFileDialog::getSaveFileName(parent, what.title, what.folder, what.filter);
+    const QFileDialog::Options options =
+        what.confirms_overwriting ? QFileDialog::Options() : QFileDialog::DontConfirmOverwrite;
+    return QFileDialog::getSaveFileName(
+        parent, what.title, what.folder, what.filter, nullptr, options);
 }
 
 void file_dialog::set_chooser(chooser stand_in)

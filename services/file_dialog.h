@@ -14,8 +14,9 @@ namespace file_dialog
 /// What a file dialog is asked with.
 struct request {
     QString title;
-    QString folder; ///< where it opens
+    QString folder; ///< where it opens; with a file name behind it, that name is proposed
     QString filter; ///< entries divided by ";;"
+    bool confirms_overwriting = true; ///< `save_file()` asks before an existing file is taken
 };
 
 /// Asks for an existing file; empty when the user cancels.

@@ -8,6 +8,7 @@
 #include <QImageWriter>
 #include <QtMath>
 
+#include <array>
 #include <cmath>
 
 namespace
@@ -127,6 +128,48 @@ void draw_quit(QPainter& painter)
     fill_shape(painter, bar, halt);
 }
 
+/// A line of letters as a bar: what the colours of a language look like from afar.
+void draw_code_bar(QPainter& painter, const QRectF& bar, const QColor& colour)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawRoundedRect(bar, 1, 1);
+}
+
+/// A sheet of code and a pencil; the bars take the colours in their order.
+void draw_edited_sheet(QPainter& painter, const std::array<QColor, 5>& colours)
+{
+    painter.setPen(QPen(QColor(96, 102, 114), 1));
+    painter.setBrush(QColor(252, 252, 250));
+    painter.drawRoundedRect(QRectF(3.5, 2.5, 15, 19), 1.5, 1.5);
+    draw_code_bar(painter, QRectF(6, 5.5, 4, 2), colours[0]);
+    draw_code_bar(painter, QRectF(6, 9.5, 3, 2), colours[1]);
+    draw_code_bar(painter, QRectF(10, 9.5, 5.5, 2), colours[2]);
+    draw_code_bar(painter, QRectF(6, 13.5, 5, 2), colours[3]);
+    draw_code_bar(painter, QRectF(6, 17.5, 4, 2), colours[4]);
+    fill_shape(painter, polygon({{19.4, 6.2}, {22.4, 9.2}, {14.2, 17.4}, {11.2, 14.4}}), amber);
+    fill_shape(painter, polygon({{11.2, 14.4}, {14.2, 17.4}, {9.8, 18.8}}), QColor(84, 66, 48));
+}
+
+void draw_edit_icon(QPainter& painter)
+{
+    draw_edited_sheet(painter,
+                      {QColor(128, 128, 0),
+                       QColor(0, 0, 235),
+                       QColor(150, 0, 150),
+                       QColor(0, 0, 235),
+                       QColor(0, 128, 0)});
+}
+
+void draw_no_edit_icon(QPainter& painter)
+{
+    const QColor grey(150, 152, 158);
+    draw_edited_sheet(painter, {grey, grey, grey, grey, grey});
+    QPainterPath stroke(QPointF(3, 21));
+    stroke.lineTo(21, 3);
+    fill_shape(painter, outline_of(stroke, 2.6), halt);
+}
+
 void draw_lamp(QPainter& painter, const QColor& colour)
 {
     const QPointF centre(8, 8);
@@ -222,6 +265,10 @@ QVector<picture> icon_pictures()
         {folder + QStringLiteral("load_file.png"), size, draw_load_file},
         {folder + QStringLiteral("short_game.png"), size, draw_short_game},
         {folder + QStringLiteral("quit.png"), size, draw_quit},
+        {QStringLiteral(":/editoricon/grafik/editoricon/edit-icon.png"), size, draw_edit_icon},
+        {QStringLiteral(":/editoricon/grafik/editoricon/no-edit-icon.png"),
+         size,
+         draw_no_edit_icon},
     };
     struct lamp {
         const char* name;

@@ -289,8 +289,14 @@ void tst_pictures::nothing_but_these_pictures_is_compiled_in()
         if (which.has_twin) drawn_paths.insert(twin_of(which.path));
     }
     QSet<QString> compiled;
-    for (const char* prefix :
-         {":/table", ":/wheel", ":/jeton", ":/selection", ":/general", ":/led", ":/splash"}) {
+    for (const char* prefix : {":/table",
+                               ":/wheel",
+                               ":/jeton",
+                               ":/selection",
+                               ":/general",
+                               ":/led",
+                               ":/splash",
+                               ":/editoricon"}) {
         QDirIterator files(prefix, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext())
             compiled.insert(files.next());
