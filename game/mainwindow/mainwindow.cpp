@@ -16,6 +16,7 @@
 #include "setting.h"
 #include "statistic_data.h"
 #include "statusprogressbar.h"
+#include "system_output.h"
 #include "ui_mainwindow.h"
 #include "wheel_number_selection.h"
 #include "wheelwidget.h"
@@ -76,18 +77,22 @@ MainWindow::MainWindow(QWidget* parent)
             this,
             &MainWindow::show_selected_number,
             Qt::QueuedConnection); // behind the source, which drops a double zero
+    create_monitors();
     find_number_labels();
     create_layout();
+    create_menus();
     create_blink_timer();
     show_pause_text();
     game_setting.read_settings(QStringLiteral("./zarvello.ini"),
                                QGuiApplication::primaryScreen()->geometry().size());
+    create_seats(); // its patterns are those of the table form at the start
     emit sigShowWindowTile();
 }
 
 MainWindow::~MainWindow()
 {
     qApp->removeEventFilter(this);
+    close_side_windows();
     number_storage.set_line_hook({});
     disconnect(&game_setting, nullptr, this, nullptr);
     disconnect(&players, nullptr, this, nullptr);
@@ -95,6 +100,8 @@ MainWindow::~MainWindow()
     deactivate_supershort_game();
     game_setting.set_state(game_state::stopped);
     cycle.stop();
+    stop_all_systems();
+    seats.reset();
     players.reset();
     number_storage.reset_load_files();
     number_storage.cancel_manual_number();
@@ -384,6 +391,10 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!may_close_editors()) {
+        event->ignore();
+        return;
+    }
     event->accept();
     end_program();
 }

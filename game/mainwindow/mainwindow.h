@@ -3,9 +3,12 @@
 
 #include "coup_cycle.h"
 #include "load_file_types.h"
+#include "system_seats.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QPointer>
+#include <QVector>
 
 #include <array>
 #include <memory>
@@ -17,9 +20,11 @@ class QThread;
 class QTimer;
 class StatusProgressBar;
 class dialog_supershort_game_counter;
+class editor_window;
 class jeton_board;
 class layout_Window;
 class load_files_option;
+class menu_Window;
 class number_control;
 class number_table;
 class player_statistik_widget;
@@ -27,8 +32,13 @@ class player_status_widget;
 class players_control;
 class program_language;
 class statistic_data;
+class system_output;
+class systemgame_monitor;
+class systemspiel_dialog;
 class wheelWidget;
 class wheel_number_selection;
+
+enum class edit_mode;
 
 namespace Ui
 {
@@ -42,10 +52,11 @@ class MainWindow;
  *
  * Its rooms: mainwindow.cpp construction and wiring, mainwindow_coup.cpp the coup,
  * mainwindow_table.cpp mouse, bets and players, mainwindow_game.cpp start, pause, stop and the
- * super short game, mainwindow_settings.cpp what a change of the settings does,
- * mainwindow_load.cpp load files and the manual number.
+ * super short game, mainwindow_systems.cpp the systems, mainwindow_editors.cpp their windows,
+ * mainwindow_settings.cpp what a change of the settings does, mainwindow_load.cpp load files and
+ * the manual number.
  */
-class MainWindow : public QMainWindow, private coup_host
+class MainWindow : public QMainWindow, private coup_host, private seats_host
 {
     Q_OBJECT
 
@@ -91,6 +102,19 @@ signals:
     void sigShowWindowTile();
     /// A score is in the credit. Unit: worth; the credit is held within the range of int.
     void player_score_changend(general_player::player_names player, qlonglong score, int credit);
+    /// A field of the system dialog was pressed.
+    void select_system_game_file(general_player::player_names player);
+    void select_system_output_file(general_player::player_names player);
+    /// The systems play their turn.
+    void play_system_file();
+    /// A system came to its end by itself.
+    void system_has_ended(general_player::player_names player);
+    /// A system began or ended.
+    void distribute_status_change_to_monitor();
+    /// A system has set pieces on a place, which is named as it is shown.
+    void display_set_on_monitor(general_player::player_names player, int amount, QString text);
+    /// What a system did beside its bets.
+    void system_monitor_action(general_player::player_names player, QString text);
     /// The number chosen for the next coup; empty for none.
     void distribute_selected_manual_number(QString number);
     /// The scale of the screen has changed.
@@ -108,6 +132,9 @@ public slots:
     void on_actionOptionen_triggered();
     void on_actionLadedateien_triggered();
     void on_actionInfo_triggered();
+    void on_actionSystemspiel_triggered();
+    void on_actionNeue_Datei_triggered();
+    void on_actionDatei_oeffnen_triggered();
     /// Writes the settings and ends the program.
     void on_actionBeenden_triggered();
 
@@ -146,6 +173,12 @@ private slots:
     void display_wait_actual_load_file_info();
     void select_number_by_user_is_triggerd();
     void set_window_title();
+    void dia_system_start(general_player::player_names player);
+    void dia_system_stop(general_player::player_names player);
+    void dia_output_start(general_player::player_names player);
+    void dia_output_stop(general_player::player_names player);
+    void sys_message_display(const QStringList& lines);
+    void build_systemfile_menu_entry(QAction* entry);
 
 private:
     using player_names = general_player::player_names;
@@ -186,9 +219,9 @@ private:
     void number_stored(int number) override;
     void count_scores(const number_hit_property& property, const player_sums& scores) override;
     void score_entered(player_names player, qint64 score) override;
-    void check_system_borders() override {}
-    player_flags playing_systems() const override { return {}; }
-    void play_systems() override {}
+    void check_system_borders() override;
+    player_flags playing_systems() const override;
+    void play_systems() override;
     void bets_opened() override;
     void load_file_ended() override;
     void show_last_numbers();
@@ -216,11 +249,43 @@ private:
     void enable_actions_of_state();
     void stop_game();
     void reset_statistic_and_numbers();
+    void warn_running_systems();
     void reset_store();
     void send_start_credits();
     void ask_for_supershort_game(bool on);
     void show_supershort_game();
     void end_program();
+
+    // systems
+    void create_seats();
+    void drain_statistic();
+    bool any_output() const;
+    void write_protocols();
+    void stop_all_systems();
+    void show_system_stop(player_names player, const sys_result_info& info);
+    void show_system_error(player_names player, sys_result_info info);
+    void jeton_set(player_names player,
+                   jetons::jeton_names jeton,
+                   jetons::ext_jeton_names ext_jeton,
+                   int amount,
+                   int line) override;
+    void monitor_action(player_names player, const QString& action) override;
+    void bets_returned(player_names) override {}
+    void message_shown(player_names player, const QStringList& lines) override;
+    void pause_wanted(player_names player) override;
+    void system_ended(player_names player, const sys_result_info& info) override;
+    void round_complete(player_names player) override;
+
+    // monitors, file menus, editors
+    void create_monitors();
+    void create_menus();
+    void open_editor(edit_mode mode,
+                     player_names player,
+                     general_loadfile::loadfile_type place = general_loadfile::MAIN_LOADFILE);
+    void open_system_at_error(player_names player, const system_status::sys_error_infos& error);
+    void show_editor(editor_window* editor);
+    bool may_close_editors();
+    void close_side_windows();
 
     // settings
     void take_over_scale_and_form();
@@ -231,6 +296,7 @@ private:
     // load files and the manual number
     void keep_alive_while_reading();
     void show_load_file_info();
+    void show_load_file_entries();
     void show_selected_number();
 
     std::unique_ptr<Ui::MainWindow> ui;
@@ -254,8 +320,13 @@ private:
     Dialog_Select_Number* announcement_dialog = nullptr;
     dialog_supershort_game_counter* short_game_dialog = nullptr;
     load_files_option* load_dialog = nullptr;
+    menu_Window* menus = nullptr;
+    std::array<systemgame_monitor*, general_player::player_count> monitors{};
+    QVector<QPointer<editor_window>> editors; // windows of their own
     QThread* statistic_thread = nullptr;
     statistic_data* statistic = nullptr; // lives and dies in its thread
+    std::unique_ptr<system_seats> seats;
+    std::array<std::unique_ptr<system_output>, general_player::player_count> system_outputs;
     QTimer* blink_timer = nullptr;
 
     static constexpr int last_number_labels = 10;

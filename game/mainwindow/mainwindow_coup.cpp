@@ -28,11 +28,6 @@ void MainWindow::bets_closed(const player_sums& seeded)
     players.tell_seeded(seeded);
 }
 
-void MainWindow::hand_change_thrown()
-{
-    emit hand_change_throw_end();
-}
-
 void MainWindow::number_stored(int number)
 {
     if (number != number_code::hand_change) {

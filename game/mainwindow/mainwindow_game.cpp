@@ -105,6 +105,7 @@ void MainWindow::stop_game()
     wheel_widget->stop_throw();
     status_widget->stop_count();
     table_layout->hide_marks();
+    stop_all_systems();
     players.table().stop(game_setting.start_capital());
     board->remove_prison_jetons();
     reset_statistic_and_numbers();
@@ -133,9 +134,24 @@ void MainWindow::on_actionReset_triggered()
         return;
     }
     reset_postponed = cycle.is_running();
-    if (reset_postponed) return;
+    if (reset_postponed) {
+        warn_running_systems();
+        return;
+    }
     reset_statistic_and_numbers();
     emit statistik_reset_done(true);
+    warn_running_systems();
+}
+
+/// What a system remembers of the coups is gone with them.
+void MainWindow::warn_running_systems()
+{
+    if (!seats->any_plays()) return;
+    message_box::tell(this,
+                      tr("Zarvello Warnung"),
+                      tr("Es ist mindestens ein Systemspiel aktiv - aufgrund der Zurücksetzung "
+                         "wird ein Neustart des Systemspiels empfohlen!"),
+                      QMessageBox::Warning);
 }
 
 void MainWindow::reset_statistic_and_numbers()
@@ -221,12 +237,13 @@ void MainWindow::on_actionInfo_triggered()
 
 void MainWindow::on_actionBeenden_triggered()
 {
-    end_program();
+    if (may_close_editors()) end_program();
 }
 
 void MainWindow::end_program()
 {
     deactivate_supershort_game(); // its borrowed setting must not reach the file
     game_setting.write_settings();
+    close_side_windows();
     QCoreApplication::quit();
 }

@@ -15,6 +15,8 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+#include <functional>
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
@@ -73,25 +75,38 @@ void MainWindow::table_pressed(const QMouseEvent& event)
 /// Opens the file dialog of a line edit, behind the event, and never a second one meanwhile.
 void MainWindow::press_line_edit(const QObject& widget)
 {
-    static const QHash<QString, general_loadfile::loadfile_type> load_files = [] {
-        QHash<QString, general_loadfile::loadfile_type> edits;
-        edits.insert(QStringLiteral("LE_loadfile_main"), general_loadfile::MAIN_LOADFILE);
-        edits.insert(QStringLiteral("LE_loadfile_group"), general_loadfile::GROUP_LOADFILE);
+    using general_loadfile::loadfile_type;
+    static const QHash<QString, std::function<void(MainWindow&)>> fields = [] {
+        QHash<QString, std::function<void(MainWindow&)>> edits;
+        const auto add_load_file = [&](const QString& name, loadfile_type type) {
+            edits.insert(name, [type](MainWindow& window) { emit window.select_load_file(type); });
+        };
+        add_load_file(QStringLiteral("LE_loadfile_main"), general_loadfile::MAIN_LOADFILE);
+        add_load_file(QStringLiteral("LE_loadfile_group"), general_loadfile::GROUP_LOADFILE);
         for (int i = 1; i < general_loadfile::file_place_count; ++i) {
-            edits.insert(QStringLiteral("LE_loadfile_follow_%1").arg(i),
-                         static_cast<general_loadfile::loadfile_type>(i));
+            add_load_file(QStringLiteral("LE_loadfile_follow_%1").arg(i),
+                          static_cast<loadfile_type>(i));
+        }
+        for (int i = 0; i < general_player::player_count; ++i) {
+            const auto player = static_cast<general_player::player_names>(i);
+            edits.insert(
+                QStringLiteral("LE_system_game_file_%1").arg(i + 1),
+                [player](MainWindow& window) { emit window.select_system_game_file(player); });
+            edits.insert(
+                QStringLiteral("LE_system_output_file_%1").arg(i + 1),
+                [player](MainWindow& window) { emit window.select_system_output_file(player); });
         }
         return edits;
     }();
     if (!qobject_cast<const QLineEdit*>(&widget)) return;
-    const auto edit = load_files.constFind(widget.objectName());
-    if (edit == load_files.constEnd() || line_edit_pressed) return;
+    const auto field = fields.constFind(widget.objectName());
+    if (field == fields.constEnd() || line_edit_pressed) return;
     line_edit_pressed = true;
-    const general_loadfile::loadfile_type type = *edit;
+    const auto choose = *field;
     QMetaObject::invokeMethod(
         this,
-        [this, type] {
-            emit select_load_file(type);
+        [this, choose] {
+            choose(*this);
             line_edit_pressed = false;
         },
         Qt::QueuedConnection);

@@ -83,11 +83,16 @@ public:
 
     const QVector<shown_box>& boxes() const { return shown; }
     int unexpected() const { return unexpected_boxes; }
+
+    /// Called when a box has come up, before it is answered.
+    std::function<void()> looks_at_box;
+
     void forget()
     {
         shown.clear();
         answers.clear();
         unexpected_boxes = 0;
+        looks_at_box = {};
     }
 
     /// What is done with the next dialog of a class once it is shown.
@@ -126,7 +131,8 @@ private:
         }
         QMetaObject::invokeMethod(
             &box,
-            [&box, button] {
+            [this, &box, button] {
+                if (looks_at_box) looks_at_box();
                 if (button) {
                     button->click();
                 } else {
