@@ -49,7 +49,10 @@ public:
     void flush();
     void close();
 
-    /// The number of the next coup is chosen by hand.
+    /// The figures of the players begin anew: the next counted coup is the first.
+    void statistic_emptied() { counted_coups = 0; }
+
+    /// The number of the coup of the next line was chosen by hand.
     void set_manual_number(bool is_manual) { manual_number = is_manual; }
 
     /// True once something could not be written; the reason is the file's error text.

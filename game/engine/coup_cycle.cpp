@@ -73,6 +73,7 @@ void coup_cycle::close_bets()
 int coup_cycle::draw_number()
 {
     const unsigned earlier_stops = stops;
+    is_chosen = numbers.get_source_mode() == number_source::manual;
     int drawn = numbers.next_number();
     while (drawn == number_code::hand_change && !was_stopped_since(earlier_stops)) {
         active_number = drawn;
@@ -80,6 +81,7 @@ int coup_cycle::draw_number()
         host.number_stored(drawn);
         host.hand_change_thrown();
         if (was_stopped_since(earlier_stops)) break;
+        is_chosen = numbers.get_source_mode() == number_source::manual;
         drawn = numbers.next_number();
     }
     return drawn;

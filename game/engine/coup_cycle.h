@@ -98,6 +98,9 @@ public:
     /// The number of the coup under way, 99 for a hand change, -1 before the first.
     int number() const { return active_number; }
 
+    /// True if the number of the coup under way was chosen by hand.
+    bool number_was_chosen() const { return is_chosen; }
+
     /// Systems whose turn is awaited, -1 when none play.
     int open_rounds() const { return open_system_rounds; }
 
@@ -121,6 +124,7 @@ private:
     table_rules coup_rules;       // the rules at the evaluation hold to the end of the coup
     table_form coup_form = table_form::french; // of the table on which the bets closed
     int active_number = -1;
+    bool is_chosen = false; // the active number, by hand
     int open_system_rounds = -1;
     player_flags round_open{};
     unsigned stops = 0; // counted, so that a step notices a stop in the middle of it

@@ -2,6 +2,7 @@
 
 #include "dialog_select_number.h"
 #include "dialog_supershort_game_counter.h"
+#include "editor_window.h"
 #include "jeton_board.h"
 #include "layout_window.h"
 #include "load_files_option.h"
@@ -92,6 +93,7 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::~MainWindow()
 {
     qApp->removeEventFilter(this);
+    delete editor.data();
     close_side_windows();
     number_storage.set_line_hook({});
     disconnect(&game_setting, nullptr, this, nullptr);
@@ -391,7 +393,7 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!may_close_editors()) {
+    if (!may_close_editor()) {
         event->ignore();
         return;
     }

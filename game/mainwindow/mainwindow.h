@@ -8,7 +8,6 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
-#include <QVector>
 
 #include <array>
 #include <memory>
@@ -178,6 +177,8 @@ private slots:
     void dia_output_start(general_player::player_names player);
     void dia_output_stop(general_player::player_names player);
     void sys_message_display(const QStringList& lines);
+    void restart_system(general_player::player_names player);
+    void read_main_load_file_again();
     void build_systemfile_menu_entry(QAction* entry);
 
 private:
@@ -254,6 +255,7 @@ private:
     void send_start_credits();
     void ask_for_supershort_game(bool on);
     void show_supershort_game();
+    void write_settings();
     void end_program();
 
     // systems
@@ -283,8 +285,8 @@ private:
                      player_names player,
                      general_loadfile::loadfile_type place = general_loadfile::MAIN_LOADFILE);
     void open_system_at_error(player_names player, const system_status::sys_error_infos& error);
-    void show_editor(editor_window* editor);
-    bool may_close_editors();
+    void show_editor(editor_window* new_editor);
+    bool may_close_editor();
     void close_side_windows();
 
     // settings
@@ -322,7 +324,7 @@ private:
     load_files_option* load_dialog = nullptr;
     menu_Window* menus = nullptr;
     std::array<systemgame_monitor*, general_player::player_count> monitors{};
-    QVector<QPointer<editor_window>> editors; // windows of their own
+    QPointer<editor_window> editor; // a window of its own
     QThread* statistic_thread = nullptr;
     statistic_data* statistic = nullptr; // lives and dies in its thread
     std::unique_ptr<system_seats> seats;

@@ -134,7 +134,7 @@ void MainWindow::on_actionSystemspiel_triggered()
     connect(this, &MainWindow::system_has_ended, &dialog, &systemspiel_dialog::system_game_ended);
     if (dialog.exec() != QDialog::Accepted) return;
     menus->show_system_files();
-    game_setting.write_settings();
+    write_settings();
 }
 
 void MainWindow::on_actionNeue_Datei_triggered()
@@ -152,6 +152,7 @@ void MainWindow::open_editor(edit_mode mode,
                              general_loadfile::loadfile_type place)
 {
     const pause_scope pause(*this);
+    if (!may_close_editor()) return;
     show_editor(
         new editor_window(mode, player, game_setting, players, number_storage, nullptr, place));
 }
@@ -159,41 +160,57 @@ void MainWindow::open_editor(edit_mode mode,
 void MainWindow::open_system_at_error(player_names player,
                                       const system_status::sys_error_infos& error)
 {
+    const pause_scope pause(*this);
+    if (!may_close_editor()) return;
     show_editor(new editor_window(error, player, game_setting, players, number_storage));
 }
 
-/// An editor stands beside the table, not above it; the window closes it with itself.
-void MainWindow::show_editor(editor_window* editor)
+/// The editor stands beside the table, not above it. There is one: a file is never open twice.
+void MainWindow::show_editor(editor_window* new_editor)
 {
-    editors.removeAll({});
-    editors.append(editor);
+    if (editor) editor->close();
+    editor = new_editor;
+    // Behind the saving of the editor, whose window may go with what follows.
     connect(editor,
             &editor_window::restart_systemplay,
             this,
-            &MainWindow::dia_system_start,
+            &MainWindow::restart_system,
             Qt::QueuedConnection);
-    connect(editor, &editor_window::restart_mainloadfile, this, [this] {
-        number_storage.set_load_files(number_storage.load_settings());
-    });
+    connect(editor,
+            &editor_window::restart_mainloadfile,
+            this,
+            &MainWindow::read_main_load_file_again,
+            Qt::QueuedConnection);
     connect(editor, &editor_window::editor_window_close, editor, &QObject::deleteLater);
     editor->show();
 }
 
-/// Asks for every changed text. False if the user wants to go on with one of them.
-bool MainWindow::may_close_editors()
+/// The system may have come to its end under the question of the editor; then it stays out.
+void MainWindow::restart_system(player_names player)
 {
-    const QVector<QPointer<editor_window>> open = editors;
-    for (const QPointer<editor_window>& editor : open) {
-        if (editor && !editor->ask_to_save()) return false;
-    }
-    return true;
+    if (!seats->plays(player)) return;
+    const pause_scope pause(*this);
+    dia_system_start(player);
+}
+
+void MainWindow::read_main_load_file_again()
+{
+    if (!number_storage.load_active()) return;
+    const pause_scope pause(*this);
+    display_wait_actual_load_file_info();
+    number_storage.set_load_files(number_storage.load_settings());
+    display_actual_load_file_info(number_storage.load_active());
+}
+
+/// Asks for a changed text. False if the user wants to go on with it.
+bool MainWindow::may_close_editor()
+{
+    return !editor || editor->ask_to_save();
 }
 
 void MainWindow::close_side_windows()
 {
-    for (const QPointer<editor_window>& editor : qAsConst(editors))
-        delete editor.data();
-    editors.clear();
+    if (editor) editor->close();
     for (systemgame_monitor* monitor : monitors)
         if (monitor) monitor->close();
 }

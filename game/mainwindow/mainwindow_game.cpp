@@ -9,6 +9,7 @@
 #include "setting.h"
 #include "statistic_data.h"
 #include "statusprogressbar.h"
+#include "system_output.h"
 #include "ui_mainwindow.h"
 #include "wheelwidget.h"
 
@@ -166,6 +167,8 @@ void MainWindow::reset_store()
 {
     QMetaObject::invokeMethod(
         statistic, &statistic_data::resetStatisticStorage, Qt::QueuedConnection);
+    for (const auto& output : system_outputs)
+        if (output) output->statistic_emptied();
 }
 
 void MainWindow::send_start_credits()
@@ -237,13 +240,22 @@ void MainWindow::on_actionInfo_triggered()
 
 void MainWindow::on_actionBeenden_triggered()
 {
-    if (may_close_editors()) end_program();
+    if (may_close_editor()) end_program();
+}
+
+/// What a super short game has borrowed stays out of the file.
+void MainWindow::write_settings()
+{
+    const bool borrowed = game_setting.s_su_shortthrow_activ();
+    if (short_game_on) game_setting.set_s_su_shortthrow_activ(short_game_saved_flag);
+    game_setting.write_settings();
+    game_setting.set_s_su_shortthrow_activ(borrowed);
 }
 
 void MainWindow::end_program()
 {
-    deactivate_supershort_game(); // its borrowed setting must not reach the file
-    game_setting.write_settings();
-    close_side_windows();
+    deactivate_supershort_game();
+    close_side_windows(); // the editor leaves its font in the settings
+    write_settings();
     QCoreApplication::quit();
 }

@@ -1,7 +1,6 @@
 #include "load_files_option.h"
 #include "mainwindow.h"
 #include "numberstorage.h"
-#include "system_output.h"
 #include "ui_mainwindow.h"
 #include "wheel_number_selection.h"
 
@@ -63,9 +62,6 @@ void MainWindow::select_number_by_user_is_triggerd()
     number_dialog->set_manual_is_set(number_storage.get_source_mode() == number_source::manual);
     number_dialog->exec();
     show_selected_number();
-    const bool is_set = number_storage.get_source_mode() == number_source::manual;
-    for (const auto& output : system_outputs)
-        if (output) output->set_manual_number(is_set);
 }
 
 void MainWindow::show_selected_number()

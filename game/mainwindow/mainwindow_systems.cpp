@@ -84,8 +84,7 @@ void MainWindow::dia_output_stop(player_names player)
     players.table().set_protocol_flag(player, false);
     std::unique_ptr<system_output>& output = system_outputs[static_cast<std::size_t>(player)];
     if (!output) return;
-    output->close();
-    output.release()->deleteLater();
+    output.reset();
 }
 
 void MainWindow::stop_all_systems()
@@ -119,7 +118,9 @@ void MainWindow::write_protocols()
 {
     for (int i = 0; i < general_player::player_count; ++i) {
         const auto& output = system_outputs[static_cast<std::size_t>(i)];
-        if (output) output->write_coup_line(statistic->status_of(static_cast<player_names>(i)));
+        if (!output) continue;
+        output->set_manual_number(cycle.number_was_chosen());
+        output->write_coup_line(statistic->status_of(static_cast<player_names>(i)));
     }
 }
 
@@ -234,6 +235,9 @@ void MainWindow::show_system_error(player_names player, sys_result_info info)
     box.setDefaultButton(QMessageBox::Yes);
     widen(box, error_box_spacer);
     if (message_box::show(box) != QMessageBox::Yes) return;
-    open_system_at_error(player,
-                         {info.error_text, info.error_line, info.mark_mode, info.mark_text});
+    // Behind the dialog in which the system may have been started.
+    const system_status::sys_error_infos error = {
+        info.error_text, info.error_line, info.mark_mode, info.mark_text};
+    QMetaObject::invokeMethod(
+        this, [=] { open_system_at_error(player, error); }, Qt::QueuedConnection);
 }

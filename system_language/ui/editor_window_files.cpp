@@ -6,6 +6,7 @@
 #include "setting.h"
 #include "ui_editor_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
@@ -75,7 +76,7 @@ QString editor_window::ask_for_file(dialog_kind kind, const QString& title)
     const int blanks = kind == dialog_kind::open ? blanks_to_open : blanks_to_save;
     const QString filter = entries.join(QLatin1String(";;") + QString(blanks, QLatin1Char(' ')));
     const file_dialog::request request = {title, QDir::currentPath(), filter};
-    QWidget* over = isVisible() ? this : parentWidget();
+    QWidget* over = isVisible() ? this : QApplication::activeWindow();
     return kind == dialog_kind::open ? file_dialog::open_file(over, request)
                                      : file_dialog::save_file(over, request);
 }
@@ -169,7 +170,7 @@ bool editor_window::save()
                              tr("Die aktive Hauptladedatei wurde geändert - Änderungen übernehmen "
                                 "und Hauptladedatei neu laden?"));
         if (!is_wanted || !write(path)) return false;
-        emit restart_mainloadfile();
+        if (is_load_file_in_play()) emit restart_mainloadfile();
         return true;
     }
     if (is_system_in_play()) {
@@ -179,7 +180,7 @@ bool editor_window::save()
                              tr("Die aktive Systemspieldatei wurde geändert - Änderungen "
                                 "übernehmen und System neu starten?"));
         if (!is_wanted || !write(path)) return false;
-        emit restart_systemplay(player);
+        if (is_system_in_play()) emit restart_systemplay(player); // it may have ended meanwhile
         return true;
     }
     return write(path);

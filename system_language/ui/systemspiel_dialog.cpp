@@ -247,6 +247,7 @@ void systemspiel_dialog::apply_system(player_names player)
     if (is_running) {
         if (is_same_file(game.path, game_setting.s_user_sys_file(player))) return;
         if (!change_is_wanted(player)) return;
+        if (!game.box->isChecked()) return; // it has ended under the question
         emit system_game_stop(player);
     }
     start_system(player);

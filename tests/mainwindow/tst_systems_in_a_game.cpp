@@ -4,8 +4,10 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QGraphicsView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPropertyAnimation>
 #include <QTableWidget>
 
 using general_player::PLAYER_1;
@@ -35,6 +37,10 @@ private slots:
     void a_protocol_that_cannot_be_written_stops_nothing();
     void a_system_that_restarts_for_ever_lets_the_game_go_on();
     void a_chosen_number_is_marked_in_the_protocol();
+    void a_number_chosen_under_the_ball_is_marked_one_coup_later();
+    void a_reset_loses_no_line_of_the_protocol();
+    void a_system_that_is_saved_while_it_plays_starts_again();
+    void there_is_one_editor();
     void stop_under_a_box_of_a_system();
 
 private:
@@ -49,6 +55,16 @@ namespace
 {
 
 const QByteArray bet_on_red = "ST:\nSZ EI1(1),EC03;\nAL:\nSZ EC03;\n";
+
+/// The one editor window, null if there is none.
+QWidget* open_editor()
+{
+    QWidget* found = nullptr;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        if (window->inherits("editor_window") && window->isVisible()) found = window;
+    return found;
+}
 
 QString edit_name(int player)
 {
@@ -130,8 +146,8 @@ void tst_systems_in_a_game::a_system_is_started_by_the_dialog()
     QVERIFY(lines.size() >= 4);
     QVERIFY(lines[0].contains("red.syf"));
     // Number 3 wide, win, set, credit 12 wide each; chosen numbers carry a star.
-    QCOMPARE(lines[2].simplified(), QByteArray("01 1 1 2001"));
-    QCOMPARE(lines[3].simplified(), QByteArray("02 -1 1 2000"));
+    QCOMPARE(lines[2].simplified(), QByteArray("*01 1 1 2001"));
+    QCOMPARE(lines[3].simplified(), QByteArray("*02 -1 1 2000"));
 }
 
 void tst_systems_in_a_game::a_system_plays_beside_a_human()
@@ -234,12 +250,8 @@ void tst_systems_in_a_game::an_error_is_mended_in_the_editor_and_plays_again()
     choose(bench, 1, QStringLiteral("system/error.syf"), false);
     user.answer(QMessageBox::Yes);
     bench.play(2);
-    QWidget* editor = nullptr;
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows)
-        if (window->inherits("editor_window")) editor = window;
+    QWidget* editor = open_editor();
     QVERIFY(editor);
-    QVERIFY(editor->isVisible());
     auto* text = editor->findChild<QPlainTextEdit*>();
     QVERIFY(text);
     QCOMPARE(text->textCursor().blockNumber(), 3); // the line of the error
@@ -379,6 +391,106 @@ void tst_systems_in_a_game::a_chosen_number_is_marked_in_the_protocol()
     bench.finish_coup();
     const QList<QByteArray> lines = contents(QStringLiteral("sysout/player_1.out")).split('\n');
     QVERIFY(lines[lines.size() - 2].startsWith("*05"));
+}
+
+void tst_systems_in_a_game::a_number_chosen_under_the_ball_is_marked_one_coup_later()
+{
+    write(QStringLiteral("system/red.syf"), bet_on_red);
+    desktop_bench bench({QStringLiteral("s_su_shortthrow_activ=false")});
+    bench.trigger("actionStart");
+    choose(bench, 1, QStringLiteral("system/red.syf"), true);
+    const auto land = [&] {
+        const auto animations =
+            bench.child<QGraphicsView>("GV_Wheel")->findChildren<QPropertyAnimation*>();
+        for (QPropertyAnimation* animation : animations)
+            animation->setCurrentTime(animation->duration());
+        bench.finish_coup();
+    };
+    bench.right_click_wheel();
+    bench.numbers().set_manual_number(5);
+    land();
+    bench.right_click_wheel();
+    land();
+    const QList<QByteArray> lines = contents(QStringLiteral("sysout/player_1.out")).split('\n');
+    QVERIFY(!lines[lines.size() - 3].startsWith("*"));
+    QVERIFY(lines[lines.size() - 2].startsWith("*05"));
+}
+
+void tst_systems_in_a_game::a_reset_loses_no_line_of_the_protocol()
+{
+    write(QStringLiteral("system/red.syf"), bet_on_red);
+    desktop_bench bench;
+    bench.trigger("actionStart");
+    choose(bench, 1, QStringLiteral("system/red.syf"), true);
+    for (const int number : {1, 2, 3})
+        bench.play(number);
+    user.answer(QMessageBox::Yes);
+    user.answer(QMessageBox::Ok);
+    bench.trigger("actionReset");
+    for (const int number : {4, 6})
+        bench.play(number);
+    QStringList numbers;
+    const QList<QByteArray> lines = contents(QStringLiteral("sysout/player_1.out")).split('\n');
+    for (int i = lines.size() - 6; i < lines.size() - 1; ++i)
+        numbers.append(QString::fromLatin1(lines[i].left(3)));
+    QCOMPARE(numbers,
+             QStringList({QStringLiteral("*01"),
+                          QStringLiteral("*02"),
+                          QStringLiteral("*03"),
+                          QStringLiteral("*04"),
+                          QStringLiteral("*06")}));
+}
+
+void tst_systems_in_a_game::a_system_that_is_saved_while_it_plays_starts_again()
+{
+    write(QStringLiteral("system/red.syf"), bet_on_red);
+    desktop_bench bench;
+    bench.trigger("actionStart");
+    choose(bench, 1, QStringLiteral("system/red.syf"), false);
+    bench.child<QAction>("actionSystemdatei_1")->trigger();
+    bench.settle();
+    QWidget* editor = open_editor();
+    QVERIFY(editor);
+    editor->findChild<QPlainTextEdit*>()->setPlainText(
+        QStringLiteral("ST:\nSZ EI1(1),DZ01;\nAL:\nSZ DZ01;\n"));
+    game_state under_the_turn = game_state::stopped;
+    const auto watch = connect(bench.window.get(), &MainWindow::display_set_on_monitor, [&] {
+        under_the_turn = bench.settings().state();
+    });
+    user.answer(QMessageBox::Yes);
+    child_of<QAction>(*editor, QStringLiteral("actionSpeichern"))->trigger();
+    bench.settle();
+    disconnect(watch);
+    QVERIFY(bench.table().account_of(PLAYER_1).is_system);
+    QCOMPARE(bench.table().count(PLAYER_1, jetons::DZ01), 1);
+    QCOMPARE(under_the_turn, game_state::paused);
+    QCOMPARE(bench.settings().state(), game_state::running);
+}
+
+void tst_systems_in_a_game::there_is_one_editor()
+{
+    write(QStringLiteral("system/one.syf"), bet_on_red);
+    write(QStringLiteral("system/two.syf"), bet_on_red);
+    desktop_bench bench({QStringLiteral("s_user_sys_file_1=system/one.syf"),
+                         QStringLiteral("s_user_sys_file_2=system/two.syf")});
+    bench.child<QAction>("actionSystemdatei_1")->trigger();
+    bench.settle();
+    QWidget* first = open_editor();
+    QVERIFY(first);
+    auto* text = first->findChild<QPlainTextEdit*>();
+    text->insertPlainText(QStringLiteral("// changed\n"));
+    user.answer(QMessageBox::Cancel); // the text is kept, and nothing else opens
+    bench.child<QAction>("actionSystemdatei_2")->trigger();
+    bench.settle();
+    QCOMPARE(open_editor(), first);
+    user.answer(QMessageBox::Cancel);
+    bench.trigger("actionBeenden"); // the program goes on
+    QVERIFY(first->isVisible());
+    user.answer(QMessageBox::Yes);
+    bench.child<QAction>("actionSystemdatei_2")->trigger();
+    bench.settle();
+    QVERIFY(contents(QStringLiteral("system/one.syf")).startsWith("// changed\n"));
+    QCOMPARE(open_editor()->windowTitle(), QStringLiteral("two.syf"));
 }
 
 void tst_systems_in_a_game::stop_under_a_box_of_a_system()
