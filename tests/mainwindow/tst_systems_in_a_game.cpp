@@ -42,6 +42,7 @@ private slots:
     void a_system_that_is_saved_while_it_plays_starts_again();
     void there_is_one_editor();
     void stop_under_a_box_of_a_system();
+    void quit_under_a_message_of_a_system();
 
 private:
     static void write(const QString& file, const QByteArray& text);
@@ -76,6 +77,7 @@ QString edit_name(int player)
 void tst_systems_in_a_game::init()
 {
     user.forget();
+    QDir(QStringLiteral("sysout")).removeRecursively(); // protocols are written on at their end
     QDir().mkpath(QStringLiteral("system"));
     QDir().mkpath(QStringLiteral("sysout"));
 }
@@ -511,6 +513,27 @@ void tst_systems_in_a_game::stop_under_a_box_of_a_system()
     QCOMPARE(bench.settings().state(), game_state::stopped);
     QCOMPARE(bench.table().credit(PLAYER_1), qint64(2000));
     QVERIFY(!bench.table().all_may_set());
+}
+
+/// The last test: behind a quit no dialog runs in this program any more.
+void tst_systems_in_a_game::quit_under_a_message_of_a_system()
+{
+    write(QStringLiteral("system/message.syf"),
+          "ST:\nMESSAGE ON;\nSZ EI1(1);\nAL:\nMESSAGE('Hallo');\nSZ EC03;\n");
+    auto bench = std::make_unique<desktop_bench>();
+    bench->trigger("actionStart");
+    choose(*bench, 1, QStringLiteral("system/message.syf"), true);
+    user.looks_at_box = [&] { bench->trigger("actionBeenden"); };
+    user.answer(QMessageBox::Ok);
+    bench->right_click_wheel();
+    bench->finish_coup();
+    QCOMPARE(user.boxes().size(), 1);
+    bench.reset();
+    QCOMPARE(setting::instance().state(), game_state::stopped);
+    // Whole lines up to the last coup.
+    QCOMPARE(contents(QStringLiteral("sysout/player_1.out")).count('\n'), 2 + 1);
+    QVERIFY(
+        contents(QStringLiteral("zarvello.ini")).contains("s_user_sys_file_1=system/message.syf"));
 }
 
 int main(int argc, char** argv)
