@@ -28,7 +28,7 @@ void serie<key_type>::close_run()
     QVector<int>& histogram = histograms[keys.indexOf(current_run.last())];
     if (histogram.size() <= length) histogram.resize(length + spare_size);
     ++histogram[length];
-    current_run.clear();
+    current_run.erase(current_run.begin(), current_run.end()); // keeps the memory, clear() does not
 }
 
 template <typename key_type>
