@@ -1,7 +1,8 @@
 #include "text_file.h"
 
+#include "whole_file.h"
+
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTextCodec>
 
 #include <memory>
@@ -76,9 +77,5 @@ static QByteArray encoded(QString text, const text_form& form)
 QString write_text_file(const QString& path, const QString& text, text_form& form)
 {
     if (!QTextCodec::codecForName(form.codec)->canEncode(text)) form.codec = utf_8;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    const QByteArray bytes = encoded(text, form);
-    if (file.write(bytes) != bytes.size() || !file.commit()) return file.errorString();
-    return {};
+    return write_whole_file(path, encoded(text, form));
 }
