@@ -117,7 +117,22 @@ bool load_files_option::select_load_file(loadfile_type load_file_type)
     const QLineEdit* edit = is_collection ? ui->LE_loadfile_group : path_edits[place];
     if (!edit->isEnabled()) return false;
 
-    const QString path = ask_for_file(load_file_type);
+    return take_choice(load_file_type, ask_for_file(load_file_type));
+}
+
+bool load_files_option::offer_file(const QString& path)
+{
+    if (is_busy() || is_asking) return false;
+    ui->CB_loadfile_activ->setChecked(true);
+    const bool is_collection = path.endsWith(QLatin1String(".snp"), Qt::CaseInsensitive);
+    const QLineEdit* edit = is_collection ? ui->LE_loadfile_group : path_edits[MAIN_LOADFILE];
+    if (!edit->isEnabled()) return false;
+    return take_choice(is_collection ? GROUP_LOADFILE : MAIN_LOADFILE, path);
+}
+
+bool load_files_option::take_choice(loadfile_type load_file_type, const QString& path)
+{
+    const bool is_collection = load_file_type == GROUP_LOADFILE;
     if (path.isEmpty() || !QFileInfo::exists(path)) return false;
     last_folder = QFileInfo(path).absolutePath();
     if (!is_collection) {

@@ -40,6 +40,10 @@ public slots:
     /// is disabled or the dialog is busy.
     bool select_load_file(general_loadfile::loadfile_type load_file_type);
 
+    /// Takes a load file or, by its ending ".snp", a collection in as if the user had chosen it,
+    /// and switches the load files on. False as for `select_load_file()`.
+    bool offer_file(const QString& path);
+
     /// Shows or clears the warning of a double zero on the French table.
     void display_loadfile_00_warning_on_franz_table(bool display);
 
@@ -80,6 +84,7 @@ private:
     };
     using file_counts = std::array<int, general_loadfile::file_place_count>;
 
+    bool take_choice(general_loadfile::loadfile_type load_file_type, const QString& path);
     QString ask_for_file(general_loadfile::loadfile_type load_file_type);
     bool ask_user(const QString& title, const QString& text);
     void show_disabled_texts_legibly();

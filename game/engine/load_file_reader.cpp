@@ -14,6 +14,7 @@ static constexpr int block_size = 64 * 1024;          // bytes read at once
 static constexpr int decoding_size = 1024 * 1024;     // bytes decoded at once
 static constexpr int longest_description = 1'000'000; // characters kept of a text line
 static constexpr int longest_date = 100;              // characters of a day in a header
+static constexpr int most_date_parts = 4;             // month names of some languages have blanks
 static constexpr int highest_number = 36;             // above it a value in a file is illegal
 static constexpr int value_limit = std::numeric_limits<int>::max(); // of longer digit texts
 
@@ -63,9 +64,16 @@ static QDate date_of(QStringView line)
     if (weekday.size() == line.size()) return {};
     const QStringView behind = line.mid(weekday.size() + 1);
     const QStringView moment = text_before(behind, QLatin1Char(',')).trimmed();
-    const QStringView day = text_before(moment, QLatin1Char(' '));
-    if (day.size() > longest_date) return {};
-    return QDate::fromString(day.toString(), QStringLiteral("dd.MMMM.yyyy"));
+    qsizetype day_size = 0;
+    for (int part = 0; part < most_date_parts && day_size < moment.size(); ++part) {
+        if (part > 0) ++day_size; // the blank
+        day_size += text_before(moment.mid(day_size), QLatin1Char(' ')).size();
+        if (day_size > longest_date) break;
+        const QString day = moment.left(day_size).toString();
+        const QDate date = QDate::fromString(day, QStringLiteral("dd.MMMM.yyyy"));
+        if (date.isValid()) return date;
+    }
+    return {};
 }
 
 load_file_reader::load_file_reader(const reading_rules& reading, std::function<void()> line_hook)

@@ -1,0 +1,12 @@
+#ifndef WHOLE_APPEND_H
+#define WHOLE_APPEND_H
+
+#include <QByteArray>
+#include <QString>
+
+/// Appends bytes to a file in one write, whole or not at all: a program that is killed, and
+/// another one that appends to the same file, never leave a part of them. The file is made if it
+/// is missing. False if the bytes are not in the file.
+bool append_whole(const QString& path, const QByteArray& bytes);
+
+#endif // WHOLE_APPEND_H
