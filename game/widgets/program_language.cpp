@@ -25,7 +25,6 @@ void program_language::set_game_language(setting_language language)
     }
 }
 
-/// German or English.
 setting_language program_language::resolved(setting_language language) const
 {
     if (language != general_setting::LANG_AUTO) return language;

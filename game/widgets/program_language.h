@@ -28,12 +28,14 @@ public:
                               const QString& system_locale = QLocale::system().name(),
                               QObject* parent = nullptr);
 
+    /// The language that is meant: German or English, that of the system for an automatic choice.
+    general_setting::setting_language resolved(general_setting::setting_language language) const;
+
 public slots:
     /// Switches the whole program. The language that is shown already is left alone.
     void set_game_language(general_setting::setting_language language);
 
 private:
-    general_setting::setting_language resolved(general_setting::setting_language language) const;
     static void install(QTranslator& texts, const QString& file);
 
     QString translations;
