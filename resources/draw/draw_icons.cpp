@@ -295,18 +295,33 @@ QString program_icon_path()
     return QStringLiteral(":/general/grafik/icon/Roul10.ico");
 }
 
+QImage program_icon_of_size(int side)
+{
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / 64.0, side / 64.0);
+    draw_program_icon(painter);
+    painter.end();
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+QVector<int> desktop_icon_sizes()
+{
+    return {16, 22, 24, 32, 48, 64, 128, 256};
+}
+
+QString desktop_icon_file(int side)
+{
+    return QStringLiteral("desktop/zarvello_%1.png").arg(side);
+}
+
 QByteArray program_icon()
 {
     QVector<QByteArray> images;
     for (const int size : icon_sizes()) {
-        QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(size / 64.0, size / 64.0);
-        draw_program_icon(painter);
-        painter.end();
-        images.append(as_png(image.convertToFormat(QImage::Format_ARGB32)));
+        images.append(as_png(program_icon_of_size(size)));
     }
 
     // The head of an icon file: its kind and count, then place and length of every image.

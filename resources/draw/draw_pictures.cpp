@@ -43,6 +43,15 @@ bool write_program_icon(const QString& folder)
     return file.commit() || fails(name);
 }
 
+bool write_desktop_icons(const QString& folder)
+{
+    for (const int side : desktop_icon_sizes()) {
+        const QString file = folder + QLatin1Char('/') + desktop_icon_file(side);
+        if (!write_image(program_icon_of_size(side), file)) return false;
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -57,5 +66,7 @@ int main(int argc, char** argv)
     for (const picture& which : all_pictures()) {
         if (!write_picture(which, arguments.at(1))) return 1;
     }
-    return write_program_icon(arguments.at(1)) ? 0 : 1;
+    const bool are_icons_written =
+        write_program_icon(arguments.at(1)) && write_desktop_icons(arguments.at(1));
+    return are_icons_written ? 0 : 1;
 }

@@ -46,6 +46,15 @@ QVector<int> icon_sizes();
 /// Path of the program's icon.
 QString program_icon_path();
 
+/// The program's icon as the picture of a square with such a side. Unit: pixels.
+QImage program_icon_of_size(int side);
+
+/// The sizes in which the menus of desktops ask for the icon, the smallest first.
+QVector<int> desktop_icon_sizes();
+
+/// The file of the icon for the menus of desktops, below the folder of the resources.
+QString desktop_icon_file(int side);
+
 /// The program's icon as a file: every size drawn by itself and stored as PNG.
 QByteArray program_icon();
 
