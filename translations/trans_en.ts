@@ -392,6 +392,112 @@ Roulette and system games on the French and the American table.</translation>
         <source>Soll die Systemspieldatei geöffnet werden?</source>
         <translation>Do you want to open the system file?</translation>
     </message>
+    <message>
+        <source>Spieler</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Zuletzt benutzte Ladedateien</source>
+        <translation>Recent Load Files</translation>
+    </message>
+    <message>
+        <source>Zuletzt benutzte Systeme</source>
+        <translation>Recent Systems</translation>
+    </message>
+    <message>
+        <source>Zuletzt benutzte Protokolle</source>
+        <translation>Recent Protocols</translation>
+    </message>
+    <message>
+        <source>Kugel werfen</source>
+        <translation>Throw the Ball</translation>
+    </message>
+    <message>
+        <source>Nächste Zahl wählen...</source>
+        <translation>Choose the Next Number...</translation>
+    </message>
+    <message>
+        <source>Jetons abräumen</source>
+        <translation>Clear Bets</translation>
+    </message>
+    <message>
+        <source>Einsätze wiederholen</source>
+        <translation>Repeat Bets</translation>
+    </message>
+    <message>
+        <source>Spieler 1</source>
+        <translation>Player 1</translation>
+    </message>
+    <message>
+        <source>Spieler 2</source>
+        <translation>Player 2</translation>
+    </message>
+    <message>
+        <source>Spieler 3</source>
+        <translation>Player 3</translation>
+    </message>
+    <message>
+        <source>Spieler 4</source>
+        <translation>Player 4</translation>
+    </message>
+    <message>
+        <source>Häufigkeit</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Eine Ladedatei kann nur gewählt werden, solange kein Spiel läuft.</source>
+        <translation>A load file can only be chosen while no game is running.</translation>
+    </message>
+    <message>
+        <source>Hot</source>
+        <translation>Hot</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>Cold</translation>
+    </message>
+    <message>
+        <source>Es ist eine neue Zarvello Version (</source>
+        <translation>A new Zarvello version (</translation>
+    </message>
+    <message>
+        <source>) verfügbar. Soll die neue Version heruntergeladen und installiert werden?</source>
+        <translation>) is available. Shall the new version be downloaded and installed?</translation>
+    </message>
+    <message>
+        <source>Es ist keine neuere Zarvello Version verfügbar.</source>
+        <translation>There is no newer Zarvello version.</translation>
+    </message>
+    <message>
+        <source>Vom Update-Server kam keine gültige Antwort.</source>
+        <translation>The update server gave no valid answer.</translation>
+    </message>
+    <message>
+        <source>Die Jahrespermanenz &quot;%1&quot; konnte wieder nicht geschrieben werden!
+Soll trotzdem ein neues Spiel beginnen? Der letzte Lauf (%2 Coups) geht dabei verloren.</source>
+        <translation>The year permanence &quot;%1&quot; again could not be written!
+Start a new game all the same? The last run (%2 coups) will then be lost.</translation>
+    </message>
+    <message>
+        <source>Die Jahrespermanenz &quot;%1&quot; konnte nicht geschrieben werden!
+Der Lauf (%2 Coups) bleibt erhalten und wird beim nächsten Start und beim Programmende noch einmal geschrieben.</source>
+        <translation>The year permanence &quot;%1&quot; could not be written!
+The run (%2 coups) is kept and will be written again at the next start and at the end of the program.</translation>
+    </message>
+    <message>
+        <source>Der letzte Lauf (%1 Coups) wird beim nächsten Programmstart noch einmal geschrieben.</source>
+        <translation>The last run (%1 coups) will be written again when the program next starts.</translation>
+    </message>
+    <message>
+        <source>Der letzte Lauf (%1 Coups) geht dabei verloren.</source>
+        <translation>The last run (%1 coups) will then be lost.</translation>
+    </message>
+    <message>
+        <source>Die Jahrespermanenz &quot;%1&quot; konnte nicht geschrieben werden!
+Soll das Programm trotzdem beendet werden?</source>
+        <translation>The year permanence &quot;%1&quot; could not be written!
+Quit the program all the same?</translation>
+    </message>
 </context>
 <context>
     <name>Options</name>
@@ -670,6 +776,217 @@ The settings hold only until the program ends.</translation>
     </message>
 </context>
 <context>
+    <name>actual_permanence</name>
+    <message>
+        <source>Aktuelle Permanenz</source>
+        <translation>Current permanence</translation>
+    </message>
+    <message>
+        <source>Keine Würfe zur Anzeige vorhanden!</source>
+        <translation>There are no throws to show!</translation>
+    </message>
+</context>
+<context>
+    <name>chart_statistic</name>
+    <message>
+        <source>Straight Up</source>
+        <translation>Straight Up</translation>
+    </message>
+    <message>
+        <source>Plein</source>
+        <translation>Plein</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Cheval</source>
+        <translation>Cheval</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Corner</translation>
+    </message>
+    <message>
+        <source>Carre</source>
+        <translation>Carre</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <source>Transversale Plein</source>
+        <translation>Transversale Plein</translation>
+    </message>
+    <message>
+        <source>Six Line</source>
+        <translation>Six Line</translation>
+    </message>
+    <message>
+        <source>Transversale Simple</source>
+        <translation>Transversale Simple</translation>
+    </message>
+    <message>
+        <source>Kolonne/Dutzend</source>
+        <translation>Column/Dozen</translation>
+    </message>
+    <message>
+        <source>Einfache Chancen</source>
+        <translation>Even chances</translation>
+    </message>
+    <message>
+        <source>Finale</source>
+        <translation>Finale</translation>
+    </message>
+    <message>
+        <source>GS,KS,OR,OP,ZS</source>
+        <translation>GS,KS,OR,OP,ZS</translation>
+    </message>
+    <message>
+        <source>Ein Nachbar</source>
+        <translation>One neighbour</translation>
+    </message>
+    <message>
+        <source>Zwei Nachbaren</source>
+        <translation>Two neighbours</translation>
+    </message>
+    <message>
+        <source>Drei Nachbaren</source>
+        <translation>Three neighbours</translation>
+    </message>
+    <message>
+        <source>Kolonne / Dutzend</source>
+        <translation>Column / Dozen</translation>
+    </message>
+    <message>
+        <source>Zwei Nachbarn</source>
+        <translation>Two neighbours</translation>
+    </message>
+    <message>
+        <source>Drei Nachbarn</source>
+        <translation>Three neighbours</translation>
+    </message>
+    <message>
+        <source>Zahl</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Endziffer</source>
+        <translation>Last digit</translation>
+    </message>
+    <message>
+        <source>Chance</source>
+        <translation>Chance</translation>
+    </message>
+    <message>
+        <source>Nummer des Feldes</source>
+        <translation>Number of the field</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Wie oft?</source>
+        <translation>How often?</translation>
+    </message>
+    <message>
+        <source>Seit wann nicht?</source>
+        <translation>How long absent?</translation>
+    </message>
+</context>
+<context>
+    <name>chart_statistic_base</name>
+    <message>
+        <source>Horiz. Raster anzeigen</source>
+        <translation>Show horiz. grid</translation>
+    </message>
+</context>
+<context>
+    <name>chart_statistic_player</name>
+    <message>
+        <source>Spielerstatistik</source>
+        <translation>Player statistics</translation>
+    </message>
+    <message>
+        <source>Spieler 1</source>
+        <translation>Player 1</translation>
+    </message>
+    <message>
+        <source>Spieler 2</source>
+        <translation>Player 2</translation>
+    </message>
+    <message>
+        <source>Spieler 3</source>
+        <translation>Player 3</translation>
+    </message>
+    <message>
+        <source>Spieler 4</source>
+        <translation>Player 4</translation>
+    </message>
+    <message>
+        <source>Guthaben</source>
+        <translation>Credit</translation>
+    </message>
+    <message>
+        <source>Gewinn/Verlust / Gesetzt</source>
+        <translation>Win/Loss / Stake</translation>
+    </message>
+    <message>
+        <source>Horiz. Raster anzeigen</source>
+        <translation>Show horiz. grid</translation>
+    </message>
+    <message>
+        <source>Gewinn</source>
+        <translation>Return</translation>
+    </message>
+    <message>
+        <source>Gesetzt</source>
+        <translation>Stake</translation>
+    </message>
+    <message>
+        <source>Coup</source>
+        <translation>Coup</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Startkapital</source>
+        <translation>Start capital</translation>
+    </message>
+    <message>
+        <source>Coups</source>
+        <translation>Coups</translation>
+    </message>
+    <message>
+        <source>Gewinncoups</source>
+        <translation>Winning coups</translation>
+    </message>
+    <message>
+        <source>Verlustcoups</source>
+        <translation>Losing coups</translation>
+    </message>
+    <message>
+        <source>Gewinn (durchgezogen)</source>
+        <translation>Return (solid line)</translation>
+    </message>
+    <message>
+        <source>Gesetzt (gestrichelt)</source>
+        <translation>Stake (dashed line)</translation>
+    </message>
+</context>
+<context>
+    <name>chart_statistic_player_widget</name>
+    <message>
+        <source>Coup %1</source>
+        <translation>Coup %1</translation>
+    </message>
+</context>
+<context>
     <name>dialog_supershort_game_counter</name>
     <message>
         <source>Superkurzspiel</source>
@@ -678,6 +995,25 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Anzahl der Coups (0 = endlos)</source>
         <translation>Number of coups (0 = endless)</translation>
+    </message>
+</context>
+<context>
+    <name>download_update_dialog</name>
+    <message>
+        <source>Download Zarvello</source>
+        <translation>Download Zarvello</translation>
+    </message>
+    <message>
+        <source>Download komplett!
+Das Programm wird beendet und der Update wird installiert!</source>
+        <translation>Download complete!
+The program will close and the update will be installed!</translation>
+    </message>
+    <message>
+        <source>Download wurde mit einem Fehler abgebrochen!
+Laden Sie bitte den Update direkt von der Homepage herunter!</source>
+        <translation>The download was broken off by an error!
+Please download the update directly from the homepage!</translation>
     </message>
 </context>
 <context>
@@ -862,6 +1198,31 @@ The settings hold only until the program ends.</translation>
     </message>
 </context>
 <context>
+    <name>file_saver</name>
+    <message>
+        <source>Die Datei %1 ist schon da. Soll sie überschrieben werden?</source>
+        <translation>The file %1 already exists. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>Zarvello Info</source>
+        <translation>Zarvello Info</translation>
+    </message>
+    <message>
+        <source>Der Inhalt konnte nicht erzeugt werden.</source>
+        <translation>The contents could not be created.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 konnte nicht gespeichert werden.
+%2</source>
+        <translation>The file %1 could not be saved.
+%2</translation>
+    </message>
+    <message>
+        <source>Das ist keine gewöhnliche Datei.</source>
+        <translation>This is not a regular file.</translation>
+    </message>
+</context>
+<context>
     <name>find_bar</name>
     <message>
         <source>Suchen:</source>
@@ -948,6 +1309,153 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Syntax Highligther</source>
         <translation>Syntax highlighter</translation>
+    </message>
+</context>
+<context>
+    <name>history_dialog</name>
+    <message>
+        <source>Historie laden</source>
+        <translation>Load history</translation>
+    </message>
+    <message>
+        <source>Datum/Zeitbereich</source>
+        <translation>Date/period</translation>
+    </message>
+    <message>
+        <source>ab Jahr (inkl.)</source>
+        <translation>from year (incl.)</translation>
+    </message>
+    <message>
+        <source>einen Tag*</source>
+        <translation>one day*</translation>
+    </message>
+    <message>
+        <source>die letzten</source>
+        <translation>the last</translation>
+    </message>
+    <message>
+        <source>Tage*</source>
+        <translation>days*</translation>
+    </message>
+    <message>
+        <source>ab dem Datum</source>
+        <translation>from the date</translation>
+    </message>
+    <message>
+        <source>lade Datei</source>
+        <translation>load file</translation>
+    </message>
+    <message>
+        <source>Doppelklick links zur Auswahl</source>
+        <translation>Double-click to choose</translation>
+    </message>
+    <message>
+        <source>Datei öffnen</source>
+        <translation>Open file</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>* absolut vom Programmstarttag</source>
+        <translation>* counted from the day of program start</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Daten an bestehende Statistik anhängen</source>
+        <translation>Add data to the present statistics</translation>
+    </message>
+    <message>
+        <source>Statistik vor dem Laden löschen</source>
+        <translation>Clear the statistics before loading</translation>
+    </message>
+    <message>
+        <source>Laden</source>
+        <translation>Load</translation>
+    </message>
+    <message>
+        <source>Ladeprotokoll</source>
+        <translation>Load protocol</translation>
+    </message>
+    <message>
+        <source>Lade Dateien (*.inp)</source>
+        <translation>Load files (*.inp)</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*.*)</source>
+        <translation>All files (*.*)</translation>
+    </message>
+    <message>
+        <source>Statistik wird zurückgesetzt ...</source>
+        <translation>The statistics are being reset ...</translation>
+    </message>
+    <message>
+        <source>Daten werden geladen - bitte warten ...</source>
+        <translation>Data are being loaded - please wait ...</translation>
+    </message>
+    <message>
+        <source>Statistik wurde nicht zurückgesetzt - Ladevorgang abgebrochen!</source>
+        <translation>The statistics were not reset - loading cancelled!</translation>
+    </message>
+    <message>
+        <source>Einarbeitung nicht erfolgreich!</source>
+        <translation>Incorporation failed!</translation>
+    </message>
+    <message>
+        <source>Es wurden keine gültigen/revelanten Coups gefunden!</source>
+        <translation>No valid/relevant coups were found!</translation>
+    </message>
+    <message>
+        <source>Das Laden war erfolgreich! Coups: </source>
+        <translation>Loading was successful! Coups: </translation>
+    </message>
+    <message>
+        <source> Handwechsel: </source>
+        <translation> Hand changes: </translation>
+    </message>
+    <message>
+        <source>Einarbeitung läuft - bitte warten ...</source>
+        <translation>Incorporation in progress - please wait ...</translation>
+    </message>
+    <message>
+        <source>Einarbeitung komplett und erfolgreich!</source>
+        <translation>Incorporation complete and successful!</translation>
+    </message>
+    <message>
+        <source>In der Ladedatei wurde die nicht gültige Zahl</source>
+        <translation>The load file contains the invalid number</translation>
+    </message>
+    <message>
+        <source> gefunden!</source>
+        <translation>!</translation>
+    </message>
+    <message>
+        <source>Die ungültige Zahl wird ignoriert - Laden wird fortgesetzt!</source>
+        <translation>The invalid number is ignored - loading continues!</translation>
+    </message>
+    <message>
+        <source>In der Ladedatei wurde 00 gefunden - aktueller Spieltisch ist aber französich - 00 wurde in 0 umgewandelt!</source>
+        <translation>00 was found in the load file - but the present table is French - 00 was turned into 0!</translation>
+    </message>
+    <message>
+        <source>Laden wird fortgesetzt ...</source>
+        <translation>Loading continues ...</translation>
+    </message>
+    <message>
+        <source>Weitere Hinweise werden nicht mehr angezeigt.</source>
+        <translation>Further notes are not shown.</translation>
+    </message>
+    <message>
+        <source>Daten wurden noch nicht geladen!</source>
+        <translation>The data have not been loaded yet!</translation>
+    </message>
+    <message>
+        <source>Soll trotzdem geschlossen werden?</source>
+        <translation>Close all the same?</translation>
     </message>
 </context>
 <context>
@@ -1097,6 +1605,17 @@ The settings hold only until the program ends.</translation>
     </message>
 </context>
 <context>
+    <name>main</name>
+    <message>
+        <source>Zarvello hält seine Dateien im Ordner %1. Er kann nicht angelegt oder nicht betreten werden!</source>
+        <translation>Zarvello keeps its files in the folder %1. It can&apos;t be created or entered!</translation>
+    </message>
+    <message>
+        <source>Zarvello Warnung</source>
+        <translation>Zarvello Warning</translation>
+    </message>
+</context>
+<context>
     <name>menu_Window</name>
     <message>
         <source>Hauptladedatei</source>
@@ -1109,6 +1628,206 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Spieler %1</source>
         <translation>Player %1</translation>
+    </message>
+</context>
+<context>
+    <name>muster_legend_widget</name>
+    <message>
+        <source>Dunkelgelb</source>
+        <translation>Dark yellow</translation>
+    </message>
+    <message>
+        <source>1-18</source>
+        <translation>1-18</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>19-36</source>
+        <translation>19-36</translation>
+    </message>
+    <message>
+        <source>EVEN</source>
+        <translation>EVEN</translation>
+    </message>
+    <message>
+        <source>ODD</source>
+        <translation>ODD</translation>
+    </message>
+    <message>
+        <source>Rot</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Schwarz</source>
+        <translation>Black</translation>
+    </message>
+    <message>
+        <source>1-12</source>
+        <translation>1-12</translation>
+    </message>
+    <message>
+        <source>13-24</source>
+        <translation>13-24</translation>
+    </message>
+    <message>
+        <source>Dunkelrot</source>
+        <translation>Dark red</translation>
+    </message>
+    <message>
+        <source>25-36</source>
+        <translation>25-36</translation>
+    </message>
+    <message>
+        <source>1. Kolonne</source>
+        <translation>1st Column</translation>
+    </message>
+    <message>
+        <source>2. Kolonne</source>
+        <translation>2nd Column</translation>
+    </message>
+    <message>
+        <source>3. Kolonne</source>
+        <translation>3rd Column</translation>
+    </message>
+</context>
+<context>
+    <name>muster_statistic</name>
+    <message>
+        <source>Muster Verlauf</source>
+        <translation>Pattern Course</translation>
+    </message>
+    <message>
+        <source>1-18/19-36</source>
+        <translation>1-18/19-36</translation>
+    </message>
+    <message>
+        <source>EVEN/ODD</source>
+        <translation>EVEN/ODD</translation>
+    </message>
+    <message>
+        <source>Rot/Schwarz</source>
+        <translation>Red/Black</translation>
+    </message>
+    <message>
+        <source>Dutzende</source>
+        <translation>Dozens</translation>
+    </message>
+    <message>
+        <source>Kolonnen</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Vertikal</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Rastergröße</source>
+        <translation>Grid Size</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Coup %1: %2</source>
+        <translation>Coup %1: %2</translation>
+    </message>
+    <message>
+        <source>Coup</source>
+        <translation>Coup</translation>
+    </message>
+    <message>
+        <source>Farbe</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>Chance</source>
+        <translation>Chance</translation>
+    </message>
+</context>
+<context>
+    <name>muster_statistic_serien</name>
+    <message>
+        <source>Muster Figuren</source>
+        <translation>Pattern Figures</translation>
+    </message>
+    <message>
+        <source>1-18/19-36 (EC01/EC06)</source>
+        <translation>1-18/19-36 (EC01/EC06)</translation>
+    </message>
+    <message>
+        <source>2er Figuren</source>
+        <translation>Figures of 2</translation>
+    </message>
+    <message>
+        <source>3er Figuren</source>
+        <translation>Figures of 3</translation>
+    </message>
+    <message>
+        <source>4er Figuren</source>
+        <translation>Figures of 4</translation>
+    </message>
+    <message>
+        <source>EVEN/ODD (EC02/EC05)</source>
+        <translation>EVEN/ODD (EC02/EC05)</translation>
+    </message>
+    <message>
+        <source>Rot/Schwarz (EC03/EC04)</source>
+        <translation>Red/Black (EC03/EC04)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Chance</source>
+        <translation>Chance</translation>
+    </message>
+    <message>
+        <source>Figur</source>
+        <translation>Figure</translation>
+    </message>
+    <message>
+        <source>Anzahl</source>
+        <translation>Count</translation>
+    </message>
+</context>
+<context>
+    <name>page_export</name>
+    <message>
+        <source>Exportieren</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Kopieren</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Als CSV speichern...</source>
+        <translation>Save as CSV...</translation>
+    </message>
+    <message>
+        <source>Als PNG speichern...</source>
+        <translation>Save as PNG...</translation>
+    </message>
+    <message>
+        <source>Als SVG speichern...</source>
+        <translation>Save as SVG...</translation>
+    </message>
+    <message>
+        <source>CSV-Dateien (*.csv)</source>
+        <translation>CSV files (*.csv)</translation>
+    </message>
+    <message>
+        <source>PNG-Dateien (*.png)</source>
+        <translation>PNG files (*.png)</translation>
+    </message>
+    <message>
+        <source>SVG-Dateien (*.svg)</source>
+        <translation>SVG files (*.svg)</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1885,25 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Spieler %1</source>
         <translation>Player %1</translation>
+    </message>
+</context>
+<context>
+    <name>printer_c</name>
+    <message>
+        <source>Es ist kein Drucker bereit. Soll die Seite als PDF gespeichert werden?</source>
+        <translation>There is no printer ready. Save the page as PDF instead?</translation>
+    </message>
+    <message>
+        <source>Zarvello Info</source>
+        <translation>Zarvello Info</translation>
+    </message>
+    <message>
+        <source>Als PDF speichern</source>
+        <translation>Save as PDF</translation>
+    </message>
+    <message>
+        <source>PDF-Dateien (*.pdf)</source>
+        <translation>PDF files (*.pdf)</translation>
     </message>
 </context>
 <context>
@@ -1693,6 +2431,295 @@ The settings hold only until the program ends.</translation>
     </message>
 </context>
 <context>
+    <name>table_follow_number</name>
+    <message>
+        <source>Folgezahlen</source>
+        <translation>Follow numbers</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+</context>
+<context>
+    <name>table_frequency</name>
+    <message>
+        <source>Häufigkeit</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+</context>
+<context>
+    <name>table_statistic_base</name>
+    <message>
+        <source>Standard - Wie oft?</source>
+        <translation>Standard - How often?</translation>
+    </message>
+    <message>
+        <source>Einfache Chance (EC01 - EC06)</source>
+        <translation>Even Chances (EC01 - EC06)</translation>
+    </message>
+    <message>
+        <source>Kolonne (KL01 - KL03)</source>
+        <translation>Columns (KL01 - KL03)</translation>
+    </message>
+    <message>
+        <source>Dutzend (DZ01 - DZ03)</source>
+        <translation>Dozens (DZ01 - DZ03)</translation>
+    </message>
+    <message>
+        <source>Plein (PL01 - PL36)</source>
+        <translation>Plein (PL01 - PL36)</translation>
+    </message>
+    <message>
+        <source>Carre (CA01 - CA23)</source>
+        <translation>Carre (CA01 - CA23)</translation>
+    </message>
+    <message>
+        <source>Transversale Simple (TS01 - TS11)</source>
+        <translation>Transversale Simple (TS01 - TS11)</translation>
+    </message>
+    <message>
+        <source>Transversale Plein (TP01 - TP14)</source>
+        <translation>Transversale Plein (TP01 - TP14)</translation>
+    </message>
+    <message>
+        <source>Cheval (CH01 - CH60)</source>
+        <translation>Cheval (CH01 - CH60)</translation>
+    </message>
+    <message>
+        <source>Standard - Seit wann nicht?</source>
+        <translation>Standard - How long absent?</translation>
+    </message>
+    <message>
+        <source>ROT</source>
+        <translation>RED</translation>
+    </message>
+    <message>
+        <source>SCHWARZ</source>
+        <translation>BLACK</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Cheval (CH01 - CH63)</source>
+        <translation>Cheval (CH01 - CH63)</translation>
+    </message>
+    <message>
+        <source>Transversale Plein (TP01 - TP16)</source>
+        <translation>Transversale Plein (TP01 - TP16)</translation>
+    </message>
+    <message>
+        <source>Straight Up (PL01 - PL36)</source>
+        <translation>Straight Up (PL01 - PL36)</translation>
+    </message>
+    <message>
+        <source>Corner (CA01 - CA23)</source>
+        <translation>Corner (CA01 - CA23)</translation>
+    </message>
+    <message>
+        <source>Six Line (TS01 - TS11)</source>
+        <translation>Six Line (TS01 - TS11)</translation>
+    </message>
+    <message>
+        <source>Split (CH01 - CH63)</source>
+        <translation>Split (CH01 - CH63)</translation>
+    </message>
+    <message>
+        <source>Split (CH01 - CH60)</source>
+        <translation>Split (CH01 - CH60)</translation>
+    </message>
+    <message>
+        <source>Street (TP01 - TP16)</source>
+        <translation>Street (TP01 - TP16)</translation>
+    </message>
+    <message>
+        <source>Street (TP01 - TP14)</source>
+        <translation>Street (TP01 - TP14)</translation>
+    </message>
+</context>
+<context>
+    <name>table_statistic_extended</name>
+    <message>
+        <source>Annoncen - Wie oft?</source>
+        <translation>Call bets - How often?</translation>
+    </message>
+    <message>
+        <source>Finale (FI00 - FI09)</source>
+        <translation>Finals (FI00 - FI09)</translation>
+    </message>
+    <message>
+        <source>Annoncen (GS, KS, OR, OP, ZS)</source>
+        <translation>Call bets (GS, KS, OR, OP, ZS)</translation>
+    </message>
+    <message>
+        <source>Ein Nachbar (EN00 - EN37)</source>
+        <translation>One Neighbour (EN00 - EN37)</translation>
+    </message>
+    <message>
+        <source>Zwei Nachbarn (ZN00 - ZN37)</source>
+        <translation>Two Neighbours (ZN00 - ZN37)</translation>
+    </message>
+    <message>
+        <source>Drei Nachbarn (DN00 - DN37)</source>
+        <translation>Three Neighbours (DN00 - DN37)</translation>
+    </message>
+    <message>
+        <source>Annoncen - Seit wann nicht?</source>
+        <translation>Call bets - How long absent?</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+</context>
+<context>
+    <name>table_statistic_serie</name>
+    <message>
+        <source>Serien</source>
+        <translation>Series</translation>
+    </message>
+    <message>
+        <source>Serien EC01 (1-18)</source>
+        <translation>Series EC01 (1-18)</translation>
+    </message>
+    <message>
+        <source>Serien EC02 (EVEN)</source>
+        <translation>Series EC02 (EVEN)</translation>
+    </message>
+    <message>
+        <source>Serien EC03 (ROT)</source>
+        <translation>Series EC03 (RED)</translation>
+    </message>
+    <message>
+        <source>Serien EC04 (SCHWARZ)</source>
+        <translation>Series EC04 (BLACK)</translation>
+    </message>
+    <message>
+        <source>Serien EC05 (ODD)</source>
+        <translation>Series EC05 (ODD)</translation>
+    </message>
+    <message>
+        <source>Serien EC06 (19-36)</source>
+        <translation>Series EC06 (19-36)</translation>
+    </message>
+    <message>
+        <source>Serien DZ01</source>
+        <translation>Series DZ01</translation>
+    </message>
+    <message>
+        <source>Serien DZ02</source>
+        <translation>Series DZ02</translation>
+    </message>
+    <message>
+        <source>Serien DZ03</source>
+        <translation>Series DZ03</translation>
+    </message>
+    <message>
+        <source>Serien KL01</source>
+        <translation>Series KL01</translation>
+    </message>
+    <message>
+        <source>Serien KL02</source>
+        <translation>Series KL02</translation>
+    </message>
+    <message>
+        <source>Serien KL03</source>
+        <translation>Series KL03</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+</context>
+<context>
+    <name>wheel_distribution</name>
+    <message>
+        <source>Kesselverteilung</source>
+        <translation>Wheel Distribution</translation>
+    </message>
+    <message>
+        <source>Treffer im Kessel</source>
+        <translation>Hits on the Wheel</translation>
+    </message>
+    <message>
+        <source>Auswertung</source>
+        <translation>Evaluation</translation>
+    </message>
+    <message>
+        <source>Quadranten</source>
+        <translation>Quadrants</translation>
+    </message>
+    <message>
+        <source>Quadrant 1</source>
+        <translation>Quadrant 1</translation>
+    </message>
+    <message>
+        <source>Quadrant 2</source>
+        <translation>Quadrant 2</translation>
+    </message>
+    <message>
+        <source>Quadrant 3</source>
+        <translation>Quadrant 3</translation>
+    </message>
+    <message>
+        <source>Quadrant 4</source>
+        <translation>Quadrant 4</translation>
+    </message>
+    <message>
+        <source>Gesamt:</source>
+        <translation>Total:</translation>
+    </message>
+    <message>
+        <source>Verbleibend: </source>
+        <translation>Remaining: </translation>
+    </message>
+    <message>
+        <source>Verzögerung</source>
+        <translation>Delay</translation>
+    </message>
+    <message>
+        <source>Millisekunden</source>
+        <translation>Milliseconds</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Zahl</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Treffer</source>
+        <translation>Hits</translation>
+    </message>
+    <message>
+        <source>Quadrant %1</source>
+        <translation>Quadrant %1</translation>
+    </message>
+</context>
+<context>
+    <name>wheel_distribution_widget</name>
+    <message>
+        <source>Zahl %1: %2 Treffer</source>
+        <translation>Number %1: %2 hits</translation>
+    </message>
+</context>
+<context>
     <name>wheel_number_selection</name>
     <message>
         <source>Nächste Roulettezahl wählen</source>
@@ -1713,6 +2740,25 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Keine Roulettezahl gewählt</source>
         <translation>No number chosen</translation>
+    </message>
+</context>
+<context>
+    <name>year_file_permanenz</name>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>*aktueller Lauf</source>
+        <translation>*current run</translation>
+    </message>
+    <message>
+        <source> (schreibgeschützt)</source>
+        <translation> (read-only)</translation>
+    </message>
+    <message>
+        <source>Keine Jahres Permanenz gefunden!</source>
+        <translation>No year permanence found!</translation>
     </message>
 </context>
 </TS>

@@ -61,15 +61,19 @@ void players_control::set_replay_for_all(bool on)
     }
 }
 
+void players_control::select_player(player_names player)
+{
+    accounts.make_active(player);
+    emit change_play_statistic_view(player);
+}
+
 void players_control::player_selection(QPoint point)
 {
     if (point.y() < scaled(tab_top, reduction) || point.y() > scaled(tab_bottom, reduction)) return;
     for (std::size_t i = 0; i < name_tabs.size(); ++i) {
         if (point.x() < scaled(name_tabs[i].left, reduction)) continue;
         if (point.x() > scaled(name_tabs[i].right, reduction)) continue;
-        const auto player = static_cast<player_names>(i);
-        accounts.make_active(player);
-        emit change_play_statistic_view(player);
+        select_player(static_cast<player_names>(i));
         return;
     }
 }

@@ -48,6 +48,9 @@ public:
     void set_replay_for_all(bool on);
 
 public slots:
+    /// Makes a player active and shows the figures.
+    void select_player(general_player::player_names player);
+
     /// Makes the player active whose name tab lies at the point of the status table.
     void player_selection(QPoint point);
 

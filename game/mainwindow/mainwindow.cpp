@@ -3,6 +3,8 @@
 #include "dialog_select_number.h"
 #include "dialog_supershort_game_counter.h"
 #include "editor_window.h"
+#include "help_keys.h"
+#include "historystorage.h"
 #include "jeton_board.h"
 #include "layout_window.h"
 #include "load_files_option.h"
@@ -58,6 +60,7 @@ MainWindow::MainWindow(QWidget* parent)
     ui->statusbar->setSizeGripEnabled(false);
     qApp->installEventFilter(this);
     connect(this, &MainWindow::sigShowWindowTile, this, &MainWindow::set_window_title);
+    create_update_check();
 
     create_dialogs();
     create_time_bar();
@@ -83,10 +86,17 @@ MainWindow::MainWindow(QWidget* parent)
     create_layout();
     create_menus();
     create_blink_timer();
+    create_hot_cold_charts();
+    create_help();
     show_pause_text();
     game_setting.read_settings(QStringLiteral("./zarvello.ini"),
                                QGuiApplication::primaryScreen()->geometry().size());
     create_seats(); // its patterns are those of the table form at the start
+    create_recent_files();
+    set_standard_keys();
+    connect_game_keys();
+    restore_windows();
+    create_history();
     emit sigShowWindowTile();
 }
 
@@ -96,6 +106,7 @@ MainWindow::~MainWindow()
     delete editor.data();
     close_side_windows();
     number_storage.set_line_hook({});
+    end_update_check();
     disconnect(&game_setting, nullptr, this, nullptr);
     disconnect(&players, nullptr, this, nullptr);
     disconnect(&number_storage, nullptr, this, nullptr);
@@ -104,6 +115,7 @@ MainWindow::~MainWindow()
     cycle.stop();
     stop_all_systems();
     seats.reset();
+    history->save_run();
     players.reset();
     number_storage.reset_load_files();
     number_storage.cancel_manual_number();
@@ -198,7 +210,10 @@ void MainWindow::connect_numbers()
             &numberStorage::next_load_file_is_loaded,
             this,
             &MainWindow::display_load_file_info);
-    number_storage.set_line_hook([this] { keep_alive_while_reading(); });
+    // A read may outlive the window that was closed in the middle of it.
+    number_storage.set_line_hook([window = QPointer<MainWindow>(this)] {
+        if (window) window->keep_alive_while_reading();
+    });
     number_storage.reset_load_files();
 }
 
@@ -211,12 +226,15 @@ void MainWindow::create_statistic()
     connect(statistic_thread, &QThread::started, statistic, &statistic_data::start);
     connect(statistic, &statistic_data::finished, statistic_thread, &QThread::quit);
     connect(statistic_thread, &QThread::finished, statistic, &QObject::deleteLater);
+    connect(
+        statistic, &statistic_data::statistic_update_done, this, &MainWindow::update_cold_hot_data);
     statistic_thread->start(QThread::InheritPriority);
     connect_statistic();
 }
 
 void MainWindow::connect_statistic()
 {
+    connect(this, &MainWindow::update_statistic_data, statistic, &statistic_data::addtoStat);
     connect(this,
             &MainWindow::update_player_stat_credit,
             statistic,
@@ -231,6 +249,9 @@ void MainWindow::connect_statistic()
             &statistic_data::player_statistic_updated,
             this,
             &MainWindow::update_player_statistic_table);
+    connect(statistic, &statistic_data::cup_counter_update, this, [this](int coups) {
+        if (statistik_widget) statistik_widget->update_cup_counter(coups);
+    });
 }
 
 void MainWindow::connect_table()
@@ -371,6 +392,7 @@ void MainWindow::create_player_statistik_table(QRect place, double reduction)
     statistik_widget = new player_statistik_widget(reduction, ui->centralwidget);
     statistik_widget->setGeometry(place);
     update_dis_player_statistic(statistic_player);
+    statistik_widget->update_cup_counter(statistic->coup_count());
     statistik_widget->show();
 }
 
@@ -389,11 +411,12 @@ void MainWindow::changeEvent(QEvent* event)
     show_supershort_game();
     show_selected_number();
     show_load_file_info();
+    set_hot_cold_titles();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!may_close_editor()) {
+    if (!may_close_editor() || !may_end_run()) {
         event->ignore();
         return;
     }

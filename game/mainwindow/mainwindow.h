@@ -2,6 +2,8 @@
 #define MAINWINDOW_H
 
 #include "coup_cycle.h"
+#include "help_viewer.h"
+#include "hot_cold_axis.h"
 #include "load_file_types.h"
 #include "system_seats.h"
 
@@ -10,16 +12,24 @@
 #include <QPointer>
 
 #include <array>
+#include <functional>
 #include <memory>
+#include <vector>
 
 class Dialog_Select_Number;
+class QDialog;
 class QLabel;
 class QMouseEvent;
+class QNetworkAccessManager;
+class QNetworkReply;
 class QThread;
 class QTimer;
 class StatusProgressBar;
+class chart_statistic_widget;
 class dialog_supershort_game_counter;
 class editor_window;
+class help_keys;
+class historystorage;
 class jeton_board;
 class layout_Window;
 class load_files_option;
@@ -30,12 +40,15 @@ class player_statistik_widget;
 class player_status_widget;
 class players_control;
 class program_language;
+class recent_files;
 class statistic_data;
+struct statistic_number_rank;
 class system_output;
 class systemgame_monitor;
 class systemspiel_dialog;
 class wheelWidget;
 class wheel_number_selection;
+class window_places;
 
 enum class edit_mode;
 
@@ -52,8 +65,11 @@ class MainWindow;
  * Its rooms: mainwindow.cpp construction and wiring, mainwindow_coup.cpp the coup,
  * mainwindow_table.cpp mouse, bets and players, mainwindow_game.cpp start, pause, stop and the
  * super short game, mainwindow_systems.cpp the systems, mainwindow_editors.cpp their windows,
+ * mainwindow_statistics.cpp hot and cold numbers and the windows of the statistic,
+ * mainwindow_files.cpp recent and dropped files, keys and places of windows,
  * mainwindow_settings.cpp what a change of the settings does, mainwindow_load.cpp load files and
- * the manual number.
+ * the manual number, mainwindow_history.cpp year permanence, history load and permanence windows,
+ * mainwindow_update.cpp the search for a newer version, mainwindow_help.cpp the manual.
  */
 class MainWindow : public QMainWindow, private coup_host, private seats_host
 {
@@ -78,6 +94,9 @@ signals:
     void player_seeded_is_finish();
     /// A field of the load dialog was pressed.
     void select_load_file(general_loadfile::loadfile_type load_file_type);
+    /// A coup enters the statistic.
+    /// @param update_display  false for all coups of a load but the last
+    void update_statistic_data(number_hit_property property, bool update_display);
     /// The capital with which a player starts. Unit: worth.
     void update_player_stat_credit(general_player::player_names player, qlonglong credit);
     /// A hand change mark has entered the permanence.
@@ -112,12 +131,20 @@ signals:
     void distribute_status_change_to_monitor();
     /// A system has set pieces on a place, which is named as it is shown.
     void display_set_on_monitor(general_player::player_names player, int amount, QString text);
+    /// A newer version is to be looked for.
+    void makeUpdateCheck();
+    /// The user wants the version that was offered.
+    void open_download_dialog(QString version);
     /// What a system did beside its bets.
     void system_monitor_action(general_player::player_names player, QString text);
     /// The number chosen for the next coup; empty for none.
     void distribute_selected_manual_number(QString number);
     /// The scale of the screen has changed.
     void dialog_to_scale();
+    /// The field of the single file in the history dialog was pressed.
+    void select_history_loadfile();
+    /// Year files are to be loaded into the statistic.
+    void load_history_files_to_game(QStringList files, QDate first_date);
 
 public slots:
     /// Toggles the pause.
@@ -130,7 +157,28 @@ public slots:
     void on_actionSuperkurzspiel_triggered(bool checked);
     void on_actionOptionen_triggered();
     void on_actionLadedateien_triggered();
+    void on_actionHistory_laden_triggered();
+    void on_actionAktuelle_Permanenz_triggered();
+    void on_actionJahrespermanenz_triggered();
     void on_actionInfo_triggered();
+    // The windows of the statistic show the figures of the moment in which they open.
+    void on_actionWie_oft_triggered();
+    void on_actionSeit_wann_triggered();
+    void on_actionAnnoncen_wie_oft_triggered();
+    void on_actionAnnoncen_seit_wann_triggered();
+    void on_actionSerien_triggered();
+    void on_actionHaeufigkeit_triggered();
+    void on_actionFolgezahlen_triggered();
+    void on_actionBalken_wie_oft_triggered();
+    void on_actionBalken_seit_wann_triggered();
+    void on_actionSpielerstatistik_triggered();
+    void on_actionKesselverteilung_triggered();
+    void on_actionFigurenverlauf_triggered();
+    void on_actionFigurenstatistik_triggered();
+    /// Looks for a newer version and tells the user what came of it.
+    void on_actionUpdate_triggered();
+    /// Opens the manual in the language of the settings.
+    void on_actionHilfe_triggered();
     void on_actionSystemspiel_triggered();
     void on_actionNeue_Datei_triggered();
     void on_actionDatei_oeffnen_triggered();
@@ -141,6 +189,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private slots:
     void on_PB_super_short_play_clicked(bool checked);
@@ -164,6 +215,7 @@ private slots:
     void checkStatusReplay();
     void update_player_statistic_table(general_player::player_names player);
     void update_dis_player_statistic(general_player::player_names player);
+    void update_cold_hot_data();
     void activate_supershort_game(int count);
     void deactivate_supershort_game();
     void initializes_base_parameter();
@@ -180,6 +232,14 @@ private slots:
     void restart_system(general_player::player_names player);
     void read_main_load_file_again();
     void build_systemfile_menu_entry(QAction* entry);
+    void execute_update_check();
+    void httpReady_update_check();
+    void open_download_progress_dialog(const QString& version);
+    void show_help(const QString& page);
+    void delete_help_process_object(int exit_code);
+    void load_history_number(int hist_throw_number, bool update_display);
+    void history_set_throw(int number);
+    void history_load_complete();
 
 private:
     using player_names = general_player::player_names;
@@ -210,6 +270,7 @@ private:
     void create_layout();
     void find_number_labels();
     void create_blink_timer();
+    void create_help();
     void create_wheel(QRect place, double reduction);
     void create_player_status_table(QRect place, double reduction);
     void create_player_statistik_table(QRect place, double reduction);
@@ -289,17 +350,55 @@ private:
     bool may_close_editor();
     void close_side_windows();
 
+    // hot and cold numbers, windows of the statistic
+    struct ranked_chart {
+        chart_statistic_widget* chart = nullptr;
+        hot_cold_axis axis;
+    };
+    void create_hot_cold_charts();
+    void place_hot_cold_charts();
+    void set_hot_cold_titles();
+    void reset_hot_cold_charts();
+    void empty_hot_cold_charts();
+    void show_ranks(ranked_chart& place, const QList<statistic_number_rank>& ranks);
+    void show_statistic_window(const QString& name, const std::function<QDialog*()>& create);
+
+    // files of the user, keys, places of windows
+    void create_recent_files();
+    void set_standard_keys();
+    void connect_game_keys();
+    void open_file_by_ending(const QString& path);
+    void offer_load_file(const QString& path);
+    void offer_system(const QString& path);
+    void show_protocol(const QString& path);
+    void show_system_dialog(const QString& offered_path);
+    void restore_windows();
+
     // settings
     void take_over_scale_and_form();
     void take_over_time_bar();
     void ask_for_start_capital();
     void run_postponed();
 
+    // the search for a newer version
+    void create_update_check();
+    void end_update_check();
+    void offer_update(const QString& version);
+    void tell_no_update(const QString& version);
+
     // load files and the manual number
     void keep_alive_while_reading();
     void show_load_file_info();
     void show_load_file_entries();
     void show_selected_number();
+
+    // year permanence and history
+    void create_history();
+    void load_history_at_start();
+    void enable_reading(bool on);
+    bool may_begin_run();
+    void save_run();
+    bool may_end_run();
 
     std::unique_ptr<Ui::MainWindow> ui;
     setting& game_setting;
@@ -310,6 +409,8 @@ private:
     coup_cycle cycle;
 
     std::unique_ptr<program_language> language;
+    help_viewer help;
+    std::unique_ptr<help_keys> f1;
 
     // children of the window
     StatusProgressBar* time_bar = nullptr;
@@ -323,13 +424,22 @@ private:
     dialog_supershort_game_counter* short_game_dialog = nullptr;
     load_files_option* load_dialog = nullptr;
     menu_Window* menus = nullptr;
+    historystorage* history = nullptr;
     std::array<systemgame_monitor*, general_player::player_count> monitors{};
     QPointer<editor_window> editor; // a window of its own
+    QNetworkAccessManager* update_access = nullptr;
+    QNetworkReply* update_reply = nullptr; // while an answer is waited for
     QThread* statistic_thread = nullptr;
     statistic_data* statistic = nullptr; // lives and dies in its thread
     std::unique_ptr<system_seats> seats;
     std::array<std::unique_ptr<system_output>, general_player::player_count> system_outputs;
+    recent_files* recent = nullptr;
+    window_places* places = nullptr;
+    QList<QWidget*> open_again; // with the table
     QTimer* blink_timer = nullptr;
+    ranked_chart hot_place;
+    ranked_chart cold_place;
+    bool has_ranks = false; // the charts show numbers
 
     static constexpr int last_number_labels = 10;
     using number_labels = std::array<QLabel*, last_number_labels>;
@@ -342,12 +452,23 @@ private:
     player_names statistic_player = general_player::PLAYER_1;
     bool short_game_on = false;
     bool short_game_saved_flag = false; // `s_su_shortthrow_activ` before a super short game
+    bool update_asked_by_user = false;  // who is told what came of the search
     int forced_pauses = 0;
     int numbers_in_play = 0;         // of the load file, hand changes left out
     QElapsedTimer since_events;      // while a file is read
     bool line_edit_pressed = false;  // its file dialog is on the way
     bool settings_postponed = false; // changed in the middle of a coup
     bool reset_postponed = false;    // asked for in the middle of a coup
+
+    /// A button of the table that rests while a history is loaded at the start.
+    struct resting_button {
+        QWidget* button;
+        bool was_enabled;
+    };
+    std::vector<resting_button> resting_buttons;
+    int bar_state_before_history = 0;
+    bool start_history_open = false; // the statistic has not told the end of that load
+    int history_numbers_sent = 0;
 };
 
 #endif // MAINWINDOW_H

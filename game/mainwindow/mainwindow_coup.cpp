@@ -1,3 +1,4 @@
+#include "historystorage.h"
 #include "mainwindow.h"
 #include "message_box.h"
 #include "number_records.h"
@@ -34,11 +35,13 @@ void MainWindow::number_stored(int number)
         time_bar->count_coup();
         emit draw_dolly_based_on_jeton_type(number);
     }
+    history->add_run_number(number);
     show_last_numbers();
 }
 
-void MainWindow::count_scores(const number_hit_property&, const player_sums& scores)
+void MainWindow::count_scores(const number_hit_property& property, const player_sums& scores)
 {
+    emit update_statistic_data(property, true);
     blink_count = 0;
     blink_timer->start();
     for (int i = 0; i < general_player::player_count; ++i) {

@@ -115,6 +115,12 @@ void MainWindow::build_systemfile_menu_entry(QAction*)
 
 void MainWindow::on_actionSystemspiel_triggered()
 {
+    show_system_dialog({});
+}
+
+/// @param offered_path  a system for the active player, if not empty
+void MainWindow::show_system_dialog(const QString& offered_path)
+{
     if (findChild<systemspiel_dialog*>()) return;
     const pause_scope pause(*this);
     systemspiel_dialog dialog(players.table(), game_setting, this);
@@ -132,6 +138,16 @@ void MainWindow::on_actionSystemspiel_triggered()
             &dialog,
             &systemspiel_dialog::set_system_output_file);
     connect(this, &MainWindow::system_has_ended, &dialog, &systemspiel_dialog::system_game_ended);
+    if (!offered_path.isEmpty()) {
+        const player_names active = players.table().active_player();
+        const player_names player =
+            active == general_player::NO_PLAYER ? general_player::PLAYER_1 : active;
+        // Behind the opening: the dialog may have to ask.
+        QMetaObject::invokeMethod(
+            &dialog,
+            [&dialog, player, offered_path] { dialog.offer_system(player, offered_path); },
+            Qt::QueuedConnection);
+    }
     if (dialog.exec() != QDialog::Accepted) return;
     menus->show_system_files();
     write_settings();

@@ -1,9 +1,11 @@
 #include "dialog_supershort_game_counter.h"
+#include "historystorage.h"
 #include "jeton_board.h"
 #include "layout_window.h"
 #include "mainwindow.h"
 #include "message_box.h"
 #include "numberstorage.h"
+#include "player_statistik_widget.h"
 #include "player_status_widget.h"
 #include "players_control.h"
 #include "setting.h"
@@ -12,10 +14,11 @@
 #include "system_output.h"
 #include "ui_mainwindow.h"
 #include "wheelwidget.h"
+#include "window_places.h"
 
 void MainWindow::on_actionStart_triggered()
 {
-    if (game_setting.state() != game_state::stopped) return;
+    if (game_setting.state() != game_state::stopped || !may_begin_run()) return;
     for (int i = 0; i < general_player::player_count; ++i)
         board->create_prison_jetons(static_cast<player_names>(i));
     game_setting.set_state(game_state::running);
@@ -31,6 +34,7 @@ void MainWindow::enable_actions_of_state()
     ui->actionPause->setEnabled(!is_stopped);
     ui->actionSuperkurzspiel->setEnabled(!is_stopped);
     ui->PB_super_short_play->setEnabled(!is_stopped);
+    ui->actionHistory_laden->setEnabled(is_stopped);
 }
 
 MainWindow::pause_scope::pause_scope(MainWindow& owner)
@@ -120,6 +124,7 @@ void MainWindow::stop_game()
     ui->actionLadedateien->setEnabled(true);
     ui->actionReset->setEnabled(true);
     run_postponed();
+    save_run();
 }
 
 void MainWindow::on_actionReset_triggered()
@@ -158,6 +163,7 @@ void MainWindow::warn_running_systems()
 void MainWindow::reset_statistic_and_numbers()
 {
     reset_store();
+    history->forget_history_total();
     number_storage.clear_permanence();
     show_last_numbers();
     send_start_credits();
@@ -167,6 +173,9 @@ void MainWindow::reset_store()
 {
     QMetaObject::invokeMethod(
         statistic, &statistic_data::resetStatisticStorage, Qt::QueuedConnection);
+    drain_statistic(); // what is told of earlier coups then finds the store empty
+    statistik_widget->update_cup_counter(0);
+    reset_hot_cold_charts();
     for (const auto& output : system_outputs)
         if (output) output->statistic_emptied();
 }
@@ -240,7 +249,7 @@ void MainWindow::on_actionInfo_triggered()
 
 void MainWindow::on_actionBeenden_triggered()
 {
-    if (may_close_editor()) end_program();
+    if (may_close_editor() && may_end_run()) end_program();
 }
 
 /// What a super short game has borrowed stays out of the file.
@@ -254,7 +263,9 @@ void MainWindow::write_settings()
 
 void MainWindow::end_program()
 {
+    history->break_off_load();
     deactivate_supershort_game();
+    places->remember_all();
     close_side_windows(); // the editor leaves its font in the settings
     write_settings();
     QCoreApplication::quit();

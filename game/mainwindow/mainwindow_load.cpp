@@ -20,8 +20,9 @@ void MainWindow::on_actionLadedateien_triggered()
 void MainWindow::keep_alive_while_reading()
 {
     if (since_events.isValid() && since_events.elapsed() < read_slice) return;
+    const QPointer<MainWindow> alive(this);
     QCoreApplication::processEvents(QEventLoop::AllEvents, event_time_limit);
-    since_events.start();
+    if (alive) since_events.start();
 }
 
 void MainWindow::display_load_file_info(bool is_loaded)

@@ -1,3 +1,4 @@
+#include "determine_history_files_and_date.h"
 #include "jeton_board.h"
 #include "layout_window.h"
 #include "mainwindow.h"
@@ -7,25 +8,10 @@
 #include "options.h"
 #include "players_control.h"
 #include "setting.h"
+#include "statistic_data.h"
 #include "statusprogressbar.h"
 
-#include <QDir>
-#include <QRegularExpression>
-
 static constexpr int ms_per_second = 1000;
-
-/// The years whose permanence lies in the working directory, the newest first.
-static QStringList permanence_years()
-{
-    static const QRegularExpression name(QStringLiteral("^Stat(\\d{4})\\.log$"));
-    QStringList years;
-    const QStringList files = QDir().entryList({QStringLiteral("Stat*.log")}, QDir::Files);
-    for (const QString& file : files) {
-        const QRegularExpressionMatch match = name.match(file);
-        if (match.hasMatch()) years.prepend(match.captured(1));
-    }
-    return years;
-}
 
 void MainWindow::on_actionOptionen_triggered()
 {
@@ -79,7 +65,10 @@ void MainWindow::take_over_scale_and_form()
     players.set_reduction(reduction);
     bets.set_reduction(reduction);
     board->set_reduction(reduction);
+    QMetaObject::invokeMethod(
+        statistic, [this, form] { statistic->set_table_form(form); }, Qt::QueuedConnection);
     table_layout->rebuild(reduction);
+    place_hot_cold_charts();
     if (is_rescaled) emit dialog_to_scale();
 }
 

@@ -2,6 +2,7 @@
 #include "message_box.h"
 #include "numberstorage.h"
 #include "players_control.h"
+#include "recent_files.h"
 #include "setting.h"
 #include "statistic_data.h"
 #include "system_output.h"
@@ -58,6 +59,7 @@ void MainWindow::create_seats()
 
 void MainWindow::dia_system_start(player_names player)
 {
+    recent->add(recent_files::kind::systems, game_setting.s_user_sys_file(player));
     seats->start(player);
     player_changed();
     emit distribute_status_change_to_monitor();
@@ -77,6 +79,7 @@ void MainWindow::dia_output_start(player_names player)
     drain_statistic();
     output->open(statistic->status_of(player).counted_coups);
     players.table().set_protocol_flag(player, true);
+    recent->add(recent_files::kind::protocols, game_setting.s_user_out_file(player));
 }
 
 void MainWindow::dia_output_stop(player_names player)

@@ -96,6 +96,8 @@ void MainWindow::press_line_edit(const QObject& widget)
                 QStringLiteral("LE_system_output_file_%1").arg(i + 1),
                 [player](MainWindow& window) { emit window.select_system_output_file(player); });
         }
+        edits.insert(QStringLiteral("LE_history_loadfile"),
+                     [](MainWindow& window) { emit window.select_history_loadfile(); });
         return edits;
     }();
     if (!qobject_cast<const QLineEdit*>(&widget)) return;
@@ -250,7 +252,5 @@ void MainWindow::update_dis_player_statistic(player_names player)
 {
     statistic_player = player;
     if (!statistik_widget) return;
-    const player_status figures = statistic->status_of(player);
-    statistik_widget->show_status(player, figures);
-    statistik_widget->update_cup_counter(static_cast<int>(figures.counted_coups));
+    statistik_widget->show_status(player, statistic->status_of(player));
 }

@@ -52,6 +52,7 @@ enum class edit_mode {
 class editor_window : public QMainWindow
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList help_keys READ help_keys)
 
 public:
     /// Finds what is wrong with a system text.
@@ -85,11 +86,19 @@ public:
     /// not be saved. A text that was given up is not asked about again until it changes.
     bool ask_to_save();
 
+    /// Shows another file in the manner of the window, a protocol to be read only. The text that
+    /// is shown goes without a question.
+    void open_file(const QString& file);
+
     /// The path of the file in the window, empty for a text without a name.
     const QString& file_path() const { return path; }
 
     /// True while parts of a long text are still to come.
     bool is_loading() const;
+
+    /// What F1 is asked for at the cursor, the fitting key first: "statement:CO" for the word
+    /// "CO01", then the words before it in its statement. Empty for a text that is no system.
+    QStringList help_keys() const;
 
     /// Takes another check than `check_system_text`.
     void set_check(check_function new_check);
@@ -170,7 +179,6 @@ private:
     bool write(const QString& file);
     bool is_system_in_play() const;
     bool is_load_file_in_play() const;
-    void open_file(const QString& file);
     bool can_open_files() const;
 
     std::unique_ptr<Ui::editor_window> ui;

@@ -140,7 +140,7 @@ void systemgame_monitor::hideEvent(QHideEvent* event)
 /// monitors hides another one.
 void systemgame_monitor::place_beside_parent()
 {
-    if (is_placed || !parentWidget()) return;
+    if (is_placed || testAttribute(Qt::WA_Moved) || !parentWidget()) return;
     is_placed = true;
     const QRect frame = parentWidget()->window()->frameGeometry();
     const QRect room = parentWidget()->window()->screen()->availableGeometry();

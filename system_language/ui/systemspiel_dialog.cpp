@@ -138,6 +138,12 @@ void systemspiel_dialog::set_system_game_file(player_names player)
     const QString path = file_dialog::open_file(
         this, {tr("Öffnen"), QString::fromLatin1(system_folder), tr("Systemspieldateien (*.syf)")});
     is_busy = false;
+    offer_system(player, path);
+}
+
+void systemspiel_dialog::offer_system(player_names player, const QString& path)
+{
+    if (is_busy || !is_player(player)) return;
     if (path.isEmpty() || !QFileInfo::exists(path)) return;
     take_path(systems[index(player)], path);
     systems[index(player)].box->setChecked(true);

@@ -40,6 +40,9 @@ public slots:
     /// with a box, and the file kept, while a human's jetons lie on the table.
     void set_system_game_file(general_player::player_names player);
 
+    /// Takes a system file in as if the user had chosen it.
+    void offer_system(general_player::player_names player, const QString& path);
+
     /// Lets the user choose the protocol file of a player, an existing one too, which is written
     /// on at its end. The protocol is switched on if the system is.
     void set_system_output_file(general_player::player_names player);

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
+#include <QThread>
 
 /**
  * The real program in a test: a shown main window in a box of its own, driven by the names of its
@@ -85,6 +86,19 @@ public:
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
+    }
+
+    /// Waits until the statistic has counted what was sent to it, and delivers what it tells.
+    void wait_for_statistic() const
+    {
+        auto* const worker = child<QThread>("statistic_thread");
+        auto* const last_in_line = new QObject;
+        last_in_line->moveToThread(worker);
+        QMetaObject::invokeMethod(
+            last_in_line,
+            [last_in_line] { last_in_line->deleteLater(); },
+            Qt::BlockingQueuedConnection);
+        settle();
     }
 
     /// Throws the ball by a right click on the wheel.
