@@ -7,6 +7,7 @@
 #include "systemgame_monitor.h"
 #include "systemspiel_dialog.h"
 #include "ui_mainwindow.h"
+#include "window_places.h"
 
 #include <QFileInfo>
 
@@ -198,6 +199,7 @@ void MainWindow::show_editor(editor_window* new_editor)
             &MainWindow::read_main_load_file_again,
             Qt::QueuedConnection);
     connect(editor, &editor_window::editor_window_close, editor, &QObject::deleteLater);
+    places->watch(*editor);
     editor->show();
 }
 

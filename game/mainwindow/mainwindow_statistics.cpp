@@ -14,6 +14,7 @@
 #include "table_statistic_serie.h"
 #include "ui_mainwindow.h"
 #include "wheel_distribution.h"
+#include "window_places.h"
 
 #include <QLabel>
 
@@ -122,12 +123,12 @@ void MainWindow::show_statistic_window(const QString& name, const std::function<
     drain_statistic();
     QDialog* const window = create();
     if (auto* const earlier = findChild<QDialog*>(name)) {
-        window->move(earlier->pos());
+        earlier->close(); // its place is remembered
         earlier->setObjectName(QString());
-        earlier->close();
     }
     window->setObjectName(name);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    places->watch(*window);
     window->show();
 }
 

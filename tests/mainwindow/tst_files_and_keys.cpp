@@ -32,6 +32,7 @@ private slots:
     void a_system_and_its_protocol_can_be_taken_again();
     void the_table_comes_back_where_it_stood();
     void open_monitors_come_back();
+    void a_statistic_window_opens_where_it_stood();
 
 private:
     static void write(const QString& name, const QByteArray& text);
@@ -317,6 +318,19 @@ void tst_files_and_keys::open_monitors_come_back()
     QCOMPARE(second->pos(), QPoint(90, 80));
     QVERIFY(bench.child<QAction>("actionSysMonitor_2")->isChecked());
     QVERIFY(!bench.child<systemgame_monitor>("systemgame_monitor_1")->isVisible());
+}
+
+void tst_files_and_keys::a_statistic_window_opens_where_it_stood()
+{
+    const desktop_bench bench;
+    bench.trigger("actionSerien");
+    bench.child<QDialog>("table_statistic_serie")->move(70, 60);
+    bench.trigger("actionSerien"); // the same window with fresh figures
+    QCOMPARE(bench.child<QDialog>("table_statistic_serie")->pos(), QPoint(70, 60));
+    bench.child<QDialog>("table_statistic_serie")->close();
+    bench.settle();
+    bench.trigger("actionSerien");
+    QCOMPARE(bench.child<QDialog>("table_statistic_serie")->pos(), QPoint(70, 60));
 }
 
 int main(int argc, char** argv)
