@@ -66,6 +66,7 @@ enum class game_state {
 
 /// The table that is played; the values are those of the setting `s_table_form`.
 enum class table_form { french = 0, american = 1 };
+Q_DECLARE_METATYPE(table_form)
 
 /// Pockets of the wheel of a table form.
 constexpr int pocket_count(table_form form)

@@ -41,6 +41,7 @@ static void register_meta_types()
     qRegisterMetaType<general_setting::setting_jeton_action>(
         "general_setting::setting_jeton_action");
     qRegisterMetaType<number_hit_property>("number_hit_property");
+    qRegisterMetaType<table_form>("table_form");
 }
 
 MainWindow::MainWindow(QWidget* parent)
@@ -234,6 +235,7 @@ void MainWindow::create_statistic()
 
 void MainWindow::connect_statistic()
 {
+    connect(this, &MainWindow::table_form_taken, statistic, &statistic_data::set_table_form);
     connect(this, &MainWindow::update_statistic_data, statistic, &statistic_data::addtoStat);
     connect(this,
             &MainWindow::update_player_stat_credit,

@@ -97,6 +97,8 @@ signals:
     /// A coup enters the statistic.
     /// @param update_display  false for all coups of a load but the last
     void update_statistic_data(number_hit_property property, bool update_display);
+    /// The next coups are played on this form of the table.
+    void table_form_taken(table_form form);
     /// The capital with which a player starts. Unit: worth.
     void update_player_stat_credit(general_player::player_names player, qlonglong credit);
     /// A hand change mark has entered the permanence.

@@ -8,7 +8,6 @@
 #include "options.h"
 #include "players_control.h"
 #include "setting.h"
-#include "statistic_data.h"
 #include "statusprogressbar.h"
 
 static constexpr int ms_per_second = 1000;
@@ -65,8 +64,7 @@ void MainWindow::take_over_scale_and_form()
     players.set_reduction(reduction);
     bets.set_reduction(reduction);
     board->set_reduction(reduction);
-    QMetaObject::invokeMethod(
-        statistic, [this, form] { statistic->set_table_form(form); }, Qt::QueuedConnection);
+    emit table_form_taken(form);
     table_layout->rebuild(reduction);
     place_hot_cold_charts();
     if (is_rescaled) emit dialog_to_scale();

@@ -94,10 +94,7 @@ public:
         auto* const worker = child<QThread>("statistic_thread");
         auto* const last_in_line = new QObject;
         last_in_line->moveToThread(worker);
-        QMetaObject::invokeMethod(
-            last_in_line,
-            [last_in_line] { last_in_line->deleteLater(); },
-            Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(last_in_line, "deleteLater", Qt::BlockingQueuedConnection);
         settle();
     }
 
