@@ -73,12 +73,9 @@ void chart_statistic_player::build_buttons()
     print_button->setAutoDefault(false);
     ui->buttonBox->addButton(print_button, QDialogButtonBox::ActionRole);
     connect(print_button, &QPushButton::clicked, this, &chart_statistic_player::print_chart);
-    new page_export(*this,
-                    *ui->buttonBox,
-                    {ui->chart_stat_player_display,
-                     [this] { return exported_table(); },
-                     tr("Spielerstatistik"),
-                     {}});
+    new page_export(*this, *ui->buttonBox, {ui->chart_stat_player_display, [this] {
+                                                return exported_table();
+                                            }});
 }
 
 void chart_statistic_player::build_table()

@@ -32,9 +32,7 @@ muster_statistic::muster_statistic(const statistic_data& statistic,
     ui->SB_grid_size->setRange(least_grid_size, greatest_grid_size);
     ui->SB_grid_size->setValue(scaled(first_grid_size, scale_reduction));
     ui->buttonBox->addButton(ui->PB_print, QDialogButtonBox::ActionRole);
-    new page_export(*this,
-                    *ui->buttonBox,
-                    {ui->WD_page, [this] { return rows(); }, QStringLiteral("muster_verlauf")});
+    new page_export(*this, *ui->buttonBox, {ui->WD_page, [this] { return rows(); }});
     on_CB_course_currentIndexChanged(ui->CB_course->currentIndex());
     remember_full_size();
 }
@@ -71,7 +69,7 @@ QString muster_statistic::description(int index) const
     const auto entries = muster_legend_widget::entries_of(shown_course);
     for (const muster_legend_widget::entry& entry : entries) {
         if (entry.colour == colours.at(index))
-            return tr("Coup %1: %2").arg(index + 1).arg(entry.chance);
+            return tr("Nr. %1: %2").arg(index + 1).arg(entry.chance);
     }
     return {};
 }
@@ -83,7 +81,7 @@ QVector<QStringList> muster_statistic::rows() const
     for (const muster_legend_widget::entry& entry : entries)
         texts.insert(entry.colour, {entry.colour_name, entry.chance});
 
-    QVector<QStringList> table = {{tr("Coup"), tr("Farbe"), tr("Chance")}};
+    QVector<QStringList> table = {{tr("Nr."), tr("Farbe"), tr("Chance")}};
     table.reserve(colours.size() + 1);
     for (int index = 0; index < colours.size(); ++index)
         table.append(QStringList(QString::number(index + 1)) + texts.value(colours.at(index)));

@@ -16,7 +16,8 @@ class muster_statistic;
 
 /**
  * The window "Muster Verlauf": the colour course of a chance as a grid of squares, with its key.
- * A course is read when it is chosen. A zero has no square.
+ * A course is read when it is chosen. A zero has no square, so the squares are numbered by
+ * themselves and not by the coups.
  */
 class muster_statistic : public dialog_layout_control
 {

@@ -43,9 +43,7 @@ muster_statistic_serien::muster_statistic_serien(const statistic_data& statistic
         }
     }
     ui->buttonBox->addButton(ui->PB_print, QDialogButtonBox::ActionRole);
-    new page_export(*this,
-                    *ui->buttonBox,
-                    {ui->TW_pairs, [this] { return rows(); }, QStringLiteral("muster_figuren")});
+    new page_export(*this, *ui->buttonBox, {ui->TW_pairs, [this] { return rows(); }});
 }
 
 muster_statistic_serien::~muster_statistic_serien() = default;

@@ -94,9 +94,7 @@ wheel_distribution::~wheel_distribution() = default;
 void wheel_distribution::build_buttons()
 {
     ui->buttonBox->addButton(ui->PB_print, QDialogButtonBox::ActionRole);
-    new page_export(*this,
-                    *ui->buttonBox,
-                    {ui->WD_page, [this] { return rows(); }, QStringLiteral("kesselverteilung")});
+    new page_export(*this, *ui->buttonBox, {ui->WD_page, [this] { return rows(); }});
 }
 
 wheel_distribution::setting_wheel_list_type wheel_distribution::list_type() const

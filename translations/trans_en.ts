@@ -1732,20 +1732,20 @@ Please download the update directly from the homepage!</translation>
         <translation>Print</translation>
     </message>
     <message>
-        <source>Coup %1: %2</source>
-        <translation>Coup %1: %2</translation>
-    </message>
-    <message>
-        <source>Coup</source>
-        <translation>Coup</translation>
-    </message>
-    <message>
         <source>Farbe</source>
         <translation>Colour</translation>
     </message>
     <message>
         <source>Chance</source>
         <translation>Chance</translation>
+    </message>
+    <message>
+        <source>Nr. %1: %2</source>
+        <translation>No. %1: %2</translation>
+    </message>
+    <message>
+        <source>Nr.</source>
+        <translation>No.</translation>
     </message>
 </context>
 <context>

@@ -251,8 +251,9 @@ void MainWindow::connect_statistic()
             &statistic_data::player_statistic_updated,
             this,
             &MainWindow::update_player_statistic_table);
-    connect(statistic, &statistic_data::cup_counter_update, this, [this](int coups) {
-        if (statistik_widget) statistik_widget->update_cup_counter(coups);
+    // Asked anew: what was told on the other side of a reset is no longer true.
+    connect(statistic, &statistic_data::cup_counter_update, this, [this] {
+        if (statistik_widget) statistik_widget->update_cup_counter(statistic->coup_count());
     });
 }
 

@@ -2,8 +2,6 @@
 #include "statistic_data.h"
 #include "test_box.h"
 
-Q_DECLARE_METATYPE(table_form)
-
 /// The order of the numbers from cold to hot, and its two ends.
 class tst_hot_and_cold : public QObject
 {

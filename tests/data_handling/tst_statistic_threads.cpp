@@ -10,8 +10,6 @@
 #include <random>
 #include <thread>
 
-Q_DECLARE_METATYPE(table_form)
-
 using general_player::PLAYER_1;
 using general_player::PLAYER_2;
 using general_player::PLAYER_3;

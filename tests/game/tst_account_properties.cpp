@@ -23,8 +23,6 @@ private slots:
     void open_bets_are_worth_what_is_seeded();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 namespace
 {
 

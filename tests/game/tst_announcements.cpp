@@ -27,8 +27,6 @@ private slots:
     void what_is_no_number_belongs_to_nothing();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 constexpr table_form french = table_form::french;
 constexpr table_form american = table_form::american;
 

@@ -34,8 +34,6 @@ private slots:
     void squares_of_different_places_do_not_overlap();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 namespace
 {
 

@@ -50,8 +50,6 @@ private slots:
     void pieces_that_do_not_fit_are_not_repeated();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 namespace
 {
 

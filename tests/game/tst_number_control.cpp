@@ -45,8 +45,6 @@ private slots:
     void a_system_lays_pieces_of_value_one();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 namespace
 {
 

@@ -53,7 +53,6 @@ private slots:
     void the_shared_object_is_one();
 };
 
-Q_DECLARE_METATYPE(table_form)
 Q_DECLARE_METATYPE(number_colour)
 
 constexpr table_form french = table_form::french;

@@ -23,7 +23,6 @@ private slots:
     void what_is_no_place_covers_and_pays_nothing();
 };
 
-Q_DECLARE_METATYPE(table_form)
 Q_DECLARE_METATYPE(chance_kind)
 
 static jetons::jeton_names place(int value)

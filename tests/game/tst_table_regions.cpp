@@ -23,8 +23,6 @@ private slots:
     void the_betting_area_has_its_edges();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 namespace
 {
 

@@ -7,6 +7,7 @@
 #include "options.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 
 class tst_help_in_window : public QObject
 {
@@ -22,6 +23,7 @@ private slots:
     void the_help_program_gets_the_file();
     void the_process_goes_when_the_help_program_ends();
     void a_help_program_that_is_missing_leaves_nothing_behind();
+    void every_key_of_the_menus_is_told();
 
 private:
     void put_in_a_desktop();
@@ -192,6 +194,34 @@ void tst_help_in_window::a_help_program_that_is_missing_leaves_nothing_behind()
     bench.trigger("actionHilfe");
     QTRY_VERIFY(bench.window->findChildren<QProcess*>().isEmpty());
     QVERIFY(user.boxes().isEmpty());
+}
+
+/// Also those that no form holds.
+void tst_help_in_window::every_key_of_the_menus_is_told()
+{
+    const QString manual = QStringLiteral(ZARVELLO_SOURCE_DIR "/help/%1/shortcuts.md");
+    const QString english = QString::fromUtf8(content_of(manual.arg("en")));
+    const QString german = QString::fromUtf8(content_of(manual.arg("de")));
+    const auto is_told = [](const QString& page, const QString& keys) {
+        const QRegularExpression cell("(?:\\| |, )" + QRegularExpression::escape(keys) +
+                                      "(?: \\||, )");
+        return cell.match(page).hasMatch();
+    };
+    const desktop_bench bench;
+    int told = 0;
+    for (const QAction* action : bench.window->findChildren<QAction*>()) {
+        for (const QKeySequence& key : action->shortcuts()) {
+            if (key.isEmpty()) continue; // a standard key that this desktop lacks
+            const QString keys = key.toString(QKeySequence::PortableText);
+            QString keys_in_german = keys;
+            keys_in_german.replace("Ctrl", "Strg").replace("Shift", "Umschalt");
+            keys_in_german.replace("Del", "Entf").replace("Backspace", "Rücktaste");
+            QVERIFY2(is_told(english, keys), qPrintable(keys));
+            QVERIFY2(is_told(german, keys_in_german), qPrintable(keys_in_german));
+            ++told;
+        }
+    }
+    QVERIFY(told >= 40);
 }
 
 int main(int argc, char** argv)

@@ -1,5 +1,9 @@
 #include "chart_statistic_widget.h"
 #include "desktop_bench.h"
+#include "file_dialog.h"
+#include "number_records.h"
+#include "page_export.h"
+#include "statistic_data.h"
 
 #include <QDialog>
 #include <QTableWidget>
@@ -18,12 +22,15 @@ private slots:
     void the_charts_show_the_three_hottest_and_coldest_numbers();
     void a_reset_empties_charts_and_counter();
     void a_stop_empties_charts_and_counter();
+    void a_count_on_its_way_does_not_outlive_a_reset();
     void the_axis_never_shrinks_until_a_reset();
     void the_charts_follow_scale_and_language();
     void the_double_zero_has_its_text();
     void the_panel_counts_coups_without_hand_changes();
     void every_window_opens_and_closes_data();
     void every_window_opens_and_closes();
+    void a_file_is_named_after_its_window_data() { every_window_opens_and_closes_data(); }
+    void a_file_is_named_after_its_window();
     void a_window_shows_the_moment_in_which_it_opens();
     void windows_outlive_coups_and_resets();
     void the_program_ends_with_windows_open();
@@ -165,6 +172,25 @@ void tst_statistic_in_a_game::a_stop_empties_charts_and_counter()
     QCOMPARE(counter(bench), QStringLiteral("0"));
 }
 
+/// The store has counted a coup, the window does not know of it yet, and a player without money
+/// gets the start capital, which empties the store.
+void tst_statistic_in_a_game::a_count_on_its_way_does_not_outlive_a_reset()
+{
+    const desktop_bench bench;
+    emit bench.window->update_statistic_data(property_of(17), true);
+    QObject last_in_line;
+    last_in_line.moveToThread(bench.child<QThread>("statistic_thread"));
+    QMetaObject::invokeMethod(
+        &last_in_line,
+        [&last_in_line, here = QThread::currentThread()] { last_in_line.moveToThread(here); },
+        Qt::BlockingQueuedConnection);
+    bench.table().set_credit(general_player::PLAYER_1, 0);
+    QVERIFY(QMetaObject::invokeMethod(
+        bench.window.get(), "initializes_base_parameter", Qt::DirectConnection));
+    bench.wait_for_statistic();
+    QCOMPARE(counter(bench), QStringLiteral("0"));
+}
+
 /// 14 stands above the 10 of the next game's empty chart; only a reset takes it back.
 void tst_statistic_in_a_game::the_axis_never_shrinks_until_a_reset()
 {
@@ -264,6 +290,32 @@ void tst_statistic_in_a_game::every_window_opens_and_closes()
     window->close();
     bench.settle();
     QVERIFY(!window);
+}
+
+/// In the language of the moment.
+void tst_statistic_in_a_game::a_file_is_named_after_its_window()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, name);
+    QFETCH(QString, title);
+    const desktop_bench bench;
+    bench.trigger(qPrintable(action));
+    auto* const window = bench.child<QDialog>(name);
+    QString proposal;
+    file_dialog::set_chooser([&proposal](const file_dialog::request& what) {
+        proposal = QFileInfo(what.folder).fileName();
+        return QString();
+    });
+    auto* const exporter = window->findChild<page_export*>();
+    exporter->save_csv();
+    QCOMPARE(proposal, title.replace('?', '_') + ".csv");
+    bench.settings().set_s_language(2);
+    emit bench.window->setting_language_changend(bench.settings().language());
+    bench.settle();
+    QVERIFY(title == "Plein" || window->windowTitle() != title);
+    exporter->save_csv();
+    QCOMPARE(proposal, window->windowTitle().replace('?', '_') + ".csv");
+    file_dialog::set_chooser({});
 }
 
 void tst_statistic_in_a_game::a_window_shows_the_moment_in_which_it_opens()

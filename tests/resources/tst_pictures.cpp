@@ -49,8 +49,6 @@ private slots:
     void the_program_icon_holds_all_sizes();
 };
 
-Q_DECLARE_METATYPE(table_form)
-
 namespace
 {
 

@@ -19,8 +19,6 @@
 #include <QScrollArea>
 #include <QTableWidget>
 
-Q_DECLARE_METATYPE(table_form)
-
 /// A store that has counted a permanence, and settings that fit it.
 struct statistic_desk {
     explicit statistic_desk(table_form form, const QVector<int>& numbers = {})

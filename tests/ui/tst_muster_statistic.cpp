@@ -103,7 +103,7 @@ private slots:
     void a_long_course_goes_on_in_the_next_row();
     void a_course_is_read_when_it_is_chosen();
     void an_empty_store_shows_nothing();
-    void the_mouse_reads_a_coup();
+    void the_mouse_reads_a_square();
 
     void the_course_can_be_copied();
     void the_picture_is_printed();
@@ -242,13 +242,14 @@ void tst_muster_statistic::an_empty_store_shows_nothing()
     }
 }
 
-void tst_muster_statistic::the_mouse_reads_a_coup()
+// The 36 is the fourth coup, but the third square: the zero has none.
+void tst_muster_statistic::the_mouse_reads_a_square()
 {
     const pattern_desk desk;
     desk.courses().setCurrentIndex(3);
     QHelpEvent help(QEvent::ToolTip, {45, 5}, desk.grid().viewport()->mapToGlobal({45, 5}));
     QCoreApplication::sendEvent(desk.grid().viewport(), &help);
-    QCOMPARE(QToolTip::text(), QString("Coup 3: 25-36"));
+    QCOMPARE(QToolTip::text(), QString("Nr. 3: 25-36"));
     QToolTip::hideText();
 }
 
@@ -260,7 +261,7 @@ void tst_muster_statistic::the_course_can_be_copied()
     desk.courses().setCurrentIndex(2);
     desk.window->findChild<page_export*>()->copy();
     QCOMPARE(QApplication::clipboard()->text().split('\n'),
-             QStringList({"Coup\tFarbe\tChance",
+             QStringList({"Nr.\tFarbe\tChance",
                           "1\tRot\tRot",
                           "2\tSchwarz\tSchwarz",
                           "3\tRot\tRot",
@@ -268,7 +269,7 @@ void tst_muster_statistic::the_course_can_be_copied()
     desk.courses().setCurrentIndex(4);
     desk.window->findChild<page_export*>()->copy();
     QCOMPARE(QApplication::clipboard()->text().split('\n'),
-             QStringList({"Coup\tFarbe\tChance",
+             QStringList({"Nr.\tFarbe\tChance",
                           "1\tDunkelgelb\t1. Kolonne",
                           "2\tCyan\t2. Kolonne",
                           "3\tDunkelrot\t3. Kolonne",
