@@ -69,9 +69,15 @@ QString historystorage::format_run_block() const
     return ::format_run_block(copy);
 }
 
+/// A program that was killed behind the save of its run had no time to remove the draft.
+static bool save_left_run(const run_record& run)
+{
+    return is_in_year_file(run) || append_to_year_file(run);
+}
+
 void historystorage::save_left_runs()
 {
-    if (settings.s_year_statistic()) run_draft::take_left_drafts(&append_to_year_file);
+    if (settings.s_year_statistic()) run_draft::take_left_drafts(&save_left_run);
 }
 
 // ---- history

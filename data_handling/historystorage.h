@@ -47,6 +47,10 @@ public:
 
     const run_record& run() const { return current_run; }
 
+    /// Writes down the whole run in its draft, in front of an end of the program at which nobody
+    /// can be asked any more.
+    void write_draft() { draft.keep(current_run, now()); }
+
     /// True if the whole run lies in its draft, from which a later program start can save it.
     bool run_is_in_draft() const { return draft.holds(current_run); }
 

@@ -33,4 +33,8 @@ QString year_file_name(int year);
 /// is in the file, or if the run is empty.
 bool append_to_year_file(const run_record& run);
 
+/// Whether its year file holds a block that began at the same moment with the same numbers: the
+/// run, or the longer one that it was a part of. False for an empty run.
+bool is_in_year_file(const run_record& run);
+
 #endif // RUN_RECORD_H

@@ -1,9 +1,12 @@
 #include "whole_append.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 bool append_whole(const QString& path, const QByteArray& bytes)
 {
+    const QFileInfo place(path);
+    if (place.exists() && !place.isFile()) return false;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) return false;
     const qint64 size_before = file.size();

@@ -18,12 +18,31 @@ static QString key_of(recent_files::kind of)
     return {};
 }
 
-/// A file name may hold an ampersand, which a menu takes for the mark of a key.
+static constexpr int longest_name = 60; // characters of a menu entry
+
+/// A name may hold a tab, which begins the column of the keys, or a line feed.
+static QString on_one_line(QString text)
+{
+    for (QChar& character : text) {
+        if (!character.isPrint()) character = QLatin1Char(' ');
+    }
+    return text;
+}
+
+/// What is too long for a menu loses its middle; the ending tells the kind of the file.
+static QString shortened(const QString& name)
+{
+    if (name.size() <= longest_name) return name;
+    const int half = longest_name / 2;
+    return name.left(half - 1) + QChar(0x2026) + name.right(half);
+}
+
+/// An ampersand would be taken for the mark of a key.
 static QString menu_text(int place, const QString& path)
 {
-    QString name = QFileInfo(path).fileName();
+    QString name = shortened(on_one_line(QFileInfo(path).fileName()));
     name.replace('&', QLatin1String("&&"));
-    return QStringLiteral("&%1  %2").arg(place).arg(name);
+    return QStringLiteral("&") + QString::number(place) + QLatin1String("  ") + name;
 }
 
 recent_files::recent_files(QString ini_file, QObject* parent)
@@ -71,8 +90,8 @@ void recent_files::show_entries(QMenu& menu, kind of)
     for (int i = 0; i < list.size(); ++i) {
         const QString& file = list.at(i);
         QAction* const entry = menu.addAction(menu_text(i + 1, file));
-        entry->setToolTip(QDir::toNativeSeparators(file));
-        entry->setStatusTip(QDir::toNativeSeparators(file));
+        entry->setToolTip(on_one_line(QDir::toNativeSeparators(file)));
+        entry->setStatusTip(entry->toolTip());
         connect(entry, &QAction::triggered, this, [this, of, file] { emit chosen(of, file); });
     }
 }

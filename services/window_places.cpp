@@ -8,7 +8,9 @@
 
 #include <algorithm>
 
-static constexpr int reachable = 40; // pixels of a window's head that must lie on a screen
+// Pixels.
+static constexpr int reachable = 40;       // of a window's head, that must lie on a screen
+static constexpr int farthest = 1'000'000; // beyond it a place is none that was written here
 
 static QString place_key(const QString& name)
 {
@@ -18,6 +20,14 @@ static QString place_key(const QString& name)
 static QString open_key(const QString& name)
 {
     return QStringLiteral("windows/%1_open").arg(name);
+}
+
+static bool is_sound(const QRect& place)
+{
+    const auto edges = {place.left(), place.top(), place.right(), place.bottom()};
+    return !place.isEmpty() && std::all_of(edges.begin(), edges.end(), [](int edge) {
+        return -farthest < edge && edge < farthest;
+    });
 }
 
 static bool is_reachable(const QRect& place)
@@ -76,9 +86,10 @@ void window_places::restore(QWidget& window) const
 {
     const QSettings settings(store, QSettings::IniFormat);
     const QRect place = settings.value(place_key(window.objectName())).toRect();
-    if (place.isEmpty() || !is_reachable(place)) return;
+    if (!is_sound(place) || !is_reachable(place)) return;
     window.move(place.topLeft());
-    if (!has_fixed_size(window)) window.resize(place.size());
+    if (has_fixed_size(window)) return;
+    window.resize(place.size().boundedTo(QGuiApplication::primaryScreen()->virtualSize()));
 }
 
 /// The place is that of the frame, the size that of the contents, as they are set.

@@ -20,7 +20,7 @@ public:
     explicit window_places(QString ini_file, QObject* parent = nullptr);
 
     /// Puts the window where it stood, and remembers its place whenever it is hidden or closed.
-    /// A window of fixed size keeps its size.
+    /// A window of fixed size keeps its size, no window becomes larger than all screens together.
     void watch(QWidget& window);
 
     /// True if the window was open when the open ones were last written down.

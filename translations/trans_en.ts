@@ -2760,5 +2760,9 @@ Please download the update directly from the homepage!</translation>
         <source>Keine Jahres Permanenz gefunden!</source>
         <translation>No year permanence found!</translation>
     </message>
+    <message>
+        <source>... (die Datei ist zu lang, gezeigt wird ihr Ende)</source>
+        <translation>... (the file is too long, its end is shown)</translation>
+    </message>
 </context>
 </TS>

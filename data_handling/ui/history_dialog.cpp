@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QIcon>
+#include <QPalette>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -58,11 +59,21 @@ history_dialog::history_dialog(historystorage& storage,
             ui->LW_load_protocol,
             &QListWidget::scrollToBottom);
     list_years();
+    take_light_paper();
     ui->LW_load_protocol->clear();
     remember_full_size();
 }
 
 history_dialog::~history_dialog() = default;
+
+/// The colours of the lines could not be read on a dark desktop.
+void history_dialog::take_light_paper()
+{
+    QPalette paper = ui->LW_load_protocol->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, plain_text);
+    ui->LW_load_protocol->setPalette(paper);
+}
 
 void history_dialog::list_years()
 {

@@ -80,6 +80,7 @@ private slots:
 private:
     enum class load_phase { none, clearing, reading, incorporating };
 
+    void take_light_paper();
     void list_years();
     void choose_rule(int rule, bool checked);
     void check_load_button();

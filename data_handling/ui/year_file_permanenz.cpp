@@ -13,6 +13,7 @@
 #include <QTextStream>
 
 static constexpr int text_points = 9;
+static constexpr qint64 most_bytes = 16LL * 1024 * 1024; // with more of them the window would stand
 
 /// Not every desktop names its fixed-width font.
 static QFont fixed_font()
@@ -40,7 +41,7 @@ year_file_permanenz::year_file_permanenz(int year, const QString& run_block, QWi
     QFile file(file_name);
     is_found = QFileInfo(file_name).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Text);
     if (is_found) {
-        QString text = QTextStream(&file).readAll();
+        QString text = shown_text(file);
         text.chop(2); // the ends of the last block
         const QString run = run_block.isEmpty() ? QStringLiteral("-") : run_block;
         ui->PE_year_file->setPlainText(text + QLatin1Char('\n') + tr("*aktueller Lauf") +
@@ -50,6 +51,16 @@ year_file_permanenz::year_file_permanenz(int year, const QString& run_block, QWi
 }
 
 year_file_permanenz::~year_file_permanenz() = default;
+
+/// The whole file; of one that is far too long for a window its end.
+QString year_file_permanenz::shown_text(QFile& file)
+{
+    const qint64 surplus = file.size() - most_bytes;
+    if (surplus <= 0 || !file.seek(surplus)) return QTextStream(&file).readAll();
+    file.readLine(); // the rest of a line
+    return tr("... (die Datei ist zu lang, gezeigt wird ihr Ende)") + QLatin1Char('\n') +
+           QTextStream(&file).readAll();
+}
 
 void year_file_permanenz::show_title()
 {

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QFile;
+
 namespace Ui
 {
 class year_file_permanenz;
@@ -12,7 +14,7 @@ class year_file_permanenz;
 
 /**
  * Shows the year file of the present year, and below it the block of the running game. Nothing
- * can be changed in it.
+ * can be changed in it. Of a file of more than 16 MiB the end is shown.
  */
 class year_file_permanenz : public QDialog
 {
@@ -28,6 +30,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QString shown_text(QFile& file);
     void show_title();
 
     const std::unique_ptr<Ui::year_file_permanenz> ui;

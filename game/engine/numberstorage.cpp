@@ -194,11 +194,10 @@ load_file_info numberStorage::read_number_files(const QStringList& files,
     rules.skip_by_date = skip_by_date;
     is_reading = true;
     load_file_result file = read_load_files(files, rules, line_hook);
-    is_reading = false;
-
     skip_by_date = file.skip_by_date;
     if (mode == reading_mode::play) cut_to_start_mode(file);
     tell_of_oddities(file);
+    is_reading = false;
     numbers = std::move(file.numbers);
     return file.info;
 }
@@ -216,12 +215,16 @@ void numberStorage::cut_to_start_mode(load_file_result& file)
     file.info.numbers = static_cast<int>(file.numbers.size()) - cut.hand_changes;
 }
 
+/// There may be millions of them.
 void numberStorage::tell_of_oddities(const load_file_result& file)
 {
+    const std::function<void()> keep_alive = line_hook; // it may be taken away meanwhile
     for (int warning = 0; warning < file.double_zero_warnings; ++warning) {
+        if (keep_alive) keep_alive();
         emit load_file_warning_00_on_franz_table(true);
     }
     for (const int value : file.illegal_values) {
+        if (keep_alive) keep_alive();
         qDebug() << "illegal number found" << value;
         emit load_file_illegal_number_found(value);
     }

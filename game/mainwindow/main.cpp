@@ -1,11 +1,9 @@
-#include "mainwindow.h"
+#include "mainwindow_start.h"
 #include "message_box.h"
-#include "pictures.h"
 #include "program_language.h"
 
 #include <QApplication>
 #include <QDebug>
-#include <QSplashScreen>
 
 /// The launcher has no box: it tells by the environment which folder it could not make or enter.
 static QString missing_folder()
@@ -39,14 +37,7 @@ int main(int argc, char** argv)
 
         if (!missing_folder().isEmpty()) return tell_missing_folder();
 
-        QSplashScreen splash(
-            scaled_picture(QStringLiteral(":/splash/grafik/splash/explo-3.png"), 0.0));
-        splash.show();
-        QCoreApplication::processEvents();
-        MainWindow window;
-        window.show();
-        splash.finish(&window);
-        return QApplication::exec();
+        return run_mainwindow();
     } catch (...) {
         qDebug() << "exeption";
         return 1;

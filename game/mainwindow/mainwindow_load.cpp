@@ -42,9 +42,9 @@ void MainWindow::show_load_file_info()
 {
     const bool is_active = number_storage.load_active();
     ui->LB_actual_load_file->setVisible(is_active);
-    const QString text = tr("Ladedatei: %1 (%2 Coups)")
-                             .arg(number_storage.get_load_file_name())
-                             .arg(numbers_in_play);
+    const QString text =
+        tr("Ladedatei: %1 (%2 Coups)")
+            .arg(number_storage.get_load_file_name(), QString::number(numbers_in_play));
     ui->LB_actual_load_file->setText(is_active ? text : QString());
     show_load_file_entries();
 }

@@ -1,10 +1,12 @@
 #include "download_update_dialog.h"
+#include "historystorage.h"
 #include "mainwindow.h"
 #include "message_box.h"
 #include "setting.h"
 #include "ui_mainwindow.h"
 #include "update_server.h"
 #include "version_check.h"
+#include "window_places.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -91,11 +93,14 @@ void MainWindow::tell_no_update(const QString& version)
                       is_answer ? QMessageBox::Information : QMessageBox::Warning);
 }
 
-/// The download ends with the end of the program, so a changed text is asked for before it.
+/// The download ends with the end of the program, so a changed text is asked for before it, and
+/// the run is put where a disk that the download fills can't hurt it.
 void MainWindow::open_download_progress_dialog(const QString& version)
 {
     if (!may_close_editor()) return;
     const pause_scope pause(*this);
+    history->write_draft();
+    places->remember_all();
     auto* dialog = new download_update_dialog(version, this);
     dialog->exec();
     dialog->deleteLater();

@@ -113,6 +113,7 @@ private slots:
 
     void the_draft_follows_every_ten_numbers();
     void a_killed_game_is_saved_at_the_next_start();
+    void a_draft_whose_run_was_saved_is_no_second_block();
     void a_draft_of_a_living_program_is_left_alone();
     void two_programs_have_two_drafts();
     void a_draft_that_cannot_be_saved_waits();
@@ -323,6 +324,25 @@ void tst_historystorage::a_killed_game_is_saved_at_the_next_start()
     QCOMPARE(content_of("Stat2018.log"), saved_draft);
     QCOMPARE(drafts(), QStringList());
     QVERIFY(bench.storage->run().is_empty()); // it is no part of the game that follows
+}
+
+// The program was killed between the save of the run and the removal of its draft.
+void tst_historystorage::a_draft_whose_run_was_saved_is_no_second_block()
+{
+    QByteArray draft;
+    {
+        storage_bench killed;
+        killed.play({1, 2, 3, 4, 5, 6, 7, 8, 9, 99, 11});
+        draft = content_of("Stat_run_1.draft");
+        QVERIFY(killed.storage->save_run());
+    }
+    put("Stat_run_1.draft", draft);
+    const QByteArray saved = content_of("Stat2018.log");
+    storage_bench next;
+    next.storage->save_left_runs();
+    QCOMPARE(content_of("Stat2018.log"), saved);
+    QCOMPARE(saved.count("::  "), 1);
+    QCOMPARE(drafts(), QStringList());
 }
 
 void tst_historystorage::a_draft_of_a_living_program_is_left_alone()

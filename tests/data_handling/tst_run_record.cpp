@@ -10,6 +10,7 @@
 
 #ifdef Q_OS_UNIX
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 static const QDateTime evening(QDate(2018, 3, 1), QTime(20, 15, 7));
@@ -66,8 +67,12 @@ private slots:
     void a_run_without_numbers_writes_nothing();
     void an_unwritable_file_data();
     void an_unwritable_file();
+    void a_pipe_or_device_takes_no_block_data();
+    void a_pipe_or_device_takes_no_block();
     void a_full_disk_leaves_no_part_of_a_block();
     void blocks_of_two_programs_do_not_mix();
+    void a_block_is_found_in_its_file_data();
+    void a_block_is_found_in_its_file();
     void every_language_reads_its_own_blocks_data();
     void every_language_reads_its_own_blocks();
 };
@@ -191,6 +196,30 @@ void tst_run_record::an_unwritable_file()
     QDir().rmdir("Stat2018.log");
 }
 
+void tst_run_record::a_pipe_or_device_takes_no_block_data()
+{
+    QTest::addColumn<QString>("device"); // empty for a pipe
+    QTest::newRow("a pipe that nobody reads") << QString();
+    QTest::newRow("a device that swallows everything") << "/dev/null";
+}
+
+// The one would hold the program up, in the other the block would be lost without a word.
+void tst_run_record::a_pipe_or_device_takes_no_block()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(QString, device);
+    if (device.isEmpty()) {
+        QCOMPARE(mkfifo("Stat2018.log", 0600), 0);
+    } else {
+        QVERIFY(QFile::link(device, "Stat2018.log"));
+    }
+    QVERIFY(!append_to_year_file(run_of({1})));
+    QVERIFY(!is_in_year_file(run_of({1})));
+#else
+    QSKIP("has no such files");
+#endif
+}
+
 // The limit stands for a disk on which 100 bytes are free.
 void tst_run_record::a_full_disk_leaves_no_part_of_a_block()
 {
@@ -238,6 +267,44 @@ void tst_run_record::blocks_of_two_programs_do_not_mix()
         rest.remove(0, is_first ? ones.size() : twos.size());
     }
     QCOMPARE(rest, QByteArray());
+}
+
+void tst_run_record::a_block_is_found_in_its_file_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QList<int>>("run");
+    QTest::addColumn<bool>("is_found");
+    const QByteArray begin = "::  Thursday,01.March.2018 20:15:07 - ";
+    const QByteArray end = "Thursday,01.March.2018 23:59:59 Coups : 32\n";
+    const QByteArray other = "::  Thursday,01.March.2018 20:15:08 - ";
+    const QByteArray line = " 0 00 --" + QByteArray(" 20").repeated(27) + "\n";
+    QList<int> thirty_one = {0, 37, 99};
+    while (thirty_one.size() < 31)
+        thirty_one.append(20);
+    // clang-format off
+    QTest::newRow("no block")          << QByteArray()                                      << QList<int>{1, 2} << false;
+    QTest::newRow("the block")         << begin + end + "01 02\n\n"                         << QList<int>{1, 2} << true;
+    QTest::newRow("its begin")         << begin + end + "01 02 03\n\n"                      << QList<int>{1, 2} << true;
+    QTest::newRow("behind another")    << other + end + "05\n\n" + begin + end + "01 02\n\n"<< QList<int>{1, 2} << true;
+    QTest::newRow("of another second") << other + end + "01 02\n\n"                         << QList<int>{1, 2} << false;
+    QTest::newRow("other numbers")     << begin + end + "01 03\n\n"                         << QList<int>{1, 2} << false;
+    QTest::newRow("a part of it")      << begin + end + "01\n\n"                            << QList<int>{1, 2} << false;
+    QTest::newRow("a torn header")     << begin                                             << QList<int>{1, 2} << false;
+    QTest::newRow("two with one begin")<< begin + end + "05\n\n" + begin + end + "01 02\n\n"<< QList<int>{1, 2} << true;
+    QTest::newRow("two lines")         << begin + end + line + "20 36\n\n"                  << thirty_one       << true;
+    QTest::newRow("another 2nd line")  << begin + end + line + "21 36\n\n"                  << thirty_one       << false;
+    QTest::newRow("an empty run")      << begin + end + "01 02\n\n"                         << QList<int>{}     << false;
+    // clang-format on
+}
+
+void tst_run_record::a_block_is_found_in_its_file()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QList<int>, run);
+    put("Stat2018.log", file);
+    QTEST(is_in_year_file(run_of(run)), "is_found");
+    QVERIFY(run.isEmpty() || append_to_year_file(run_of(run)));
+    QCOMPARE(is_in_year_file(run_of(run)), !run.isEmpty());
 }
 
 void tst_run_record::every_language_reads_its_own_blocks_data()

@@ -112,6 +112,7 @@ private slots:
     void a_step_into_an_empty_file_ends_the_run();
     void a_step_outside_of_a_run_does_nothing();
     void reads_during_a_read_do_nothing();
+    void oddities_are_told_among_other_work();
 };
 
 void tst_numberstorage::init()
@@ -815,6 +816,30 @@ void tst_numberstorage::reads_during_a_read_do_nothing()
     source.set_load_files(choice_of({"abc.inp", "de.inp"}));
     QCOMPARE(next_numbers(source, 5), (numbers{1, 2, 3, 4, 5}));
     QCOMPARE(lines, 2);
+}
+
+// There may be millions of them, and what hears of them may take its time. Each of the six calls
+// stands before what it is about: two lines, two double zeros, two illegal values.
+void tst_numberstorage::oddities_are_told_among_other_work()
+{
+    write("odd.inp", "5 00 40\n00 41\n");
+    QTest::ignoreMessage(QtDebugMsg, "illegal number found 40");
+    QTest::ignoreMessage(QtDebugMsg, "illegal number found 41");
+    const setting settings;
+    numberStorage source(settings);
+    int calls = 0;
+    QList<int> calls_before; // each thing that was told
+    const auto note = [&] { calls_before.append(calls); };
+    connect(&source, &numberStorage::load_file_warning_00_on_franz_table, this, note);
+    connect(&source, &numberStorage::load_file_illegal_number_found, this, note);
+    source.set_line_hook([&] {
+        ++calls;
+        QCOMPARE(source.count_load_file_numbers("abc.inp"), 0); // it is still reading
+        if (calls == 5) source.set_line_hook({});
+    });
+    QCOMPARE(source.count_load_file_numbers("odd.inp"), 3);
+    QCOMPARE(calls_before, (QList<int>{3, 4, 5, 6}));
+    QCOMPARE(source.count_load_file_numbers("abc.inp"), 3);
 }
 
 int main(int argc, char** argv)

@@ -1,5 +1,7 @@
 #include "desktop_bench.h"
+#include "mainwindow_start.h"
 
+#include <QDate>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QProcess>
@@ -8,8 +10,10 @@
 #include <QScreen>
 #include <QSet>
 #include <QSpinBox>
+#include <QSplashScreen>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cstdlib>
 
 using general_player::PLAYER_1;
@@ -43,6 +47,8 @@ private slots:
     void quit_with_something_open_data();
     void quit_with_something_open();
     void closed_while_the_ball_runs();
+    void ended_in_the_load_at_the_start_data();
+    void ended_in_the_load_at_the_start();
 
 private:
     box_user user;
@@ -442,6 +448,21 @@ void tst_hostile_surroundings::closed_while_the_ball_runs()
     QCOMPARE(read.s_history_days_count(), 123);
 }
 
+void tst_hostile_surroundings::ended_in_the_load_at_the_start_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("by the frame of the window") << "load_closed";
+    QTest::newRow("by the menu") << "load_quit";
+}
+
+void tst_hostile_surroundings::ended_in_the_load_at_the_start()
+{
+    QFETCH(QString, way);
+    const outcome other = run_this(way);
+    QVERIFY2(other.is_good(), qPrintable(other.told()));
+    QCOMPARE(other.output.trimmed(), QStringLiteral("ended"));
+}
+
 // The cases that have a process of their own. Each returns what its process returns.
 
 namespace
@@ -637,6 +658,52 @@ int quit_with_open(const QString& name)
     return 0;
 }
 
+bool is_splash_up()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return qobject_cast<const QSplashScreen*>(window) && window->isVisible();
+    });
+}
+
+/// The program from its first picture on, ended with some of the coups loaded.
+int end_in_the_load(const QString& name)
+{
+    constexpr std::size_t coups = 300'000, enough = 5'000;
+    write_file("[option]\ns_use_history_throws_startup=true\ns_load_history_stat_type_index=0\n");
+    const QDateTime now = QDateTime::currentDateTime();
+    QFile year_file(QStringLiteral("Stat%1.log").arg(now.date().year()));
+    must(year_file.open(QIODevice::WriteOnly), "a year file");
+    year_file.write("::  " + now.toString("dddd,dd.MMMM.yyyy").toUtf8() + " 00:00:00 - x\n");
+    year_file.write(QByteArray("1 2 3 4 5 6 7 8 9 10\n").repeated(coups / 10));
+    year_file.close();
+
+    const auto& loaded = numberStorage::instance().history().all();
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (loaded.size() < enough) return;
+        look.stop();
+        must(loaded.size() < coups, "it is in the middle of the load");
+        must(!is_splash_up(), "the picture does not cover the window");
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget* window : windows) {
+            if (!qobject_cast<MainWindow*>(window)) continue;
+            if (name == QLatin1String("load_closed")) {
+                window->close();
+            } else {
+                child_of<QAction>(*window, QStringLiteral("actionBeenden"))->trigger();
+            }
+        }
+    });
+    look.start(0);
+    QTimer::singleShot(longest_wait / 2, [] { must(false, "the program does not end"); });
+    must(run_mainwindow() == 0, "status");
+    must(!look.isActive(), "it was ended in the load");
+    year_file.remove();
+    puts("ended");
+    return 0;
+}
+
 int run_in_this_process(const QString& name, int argc, char** argv)
 {
     QLocale::setDefault(QLocale::c());
@@ -648,6 +715,7 @@ int run_in_this_process(const QString& name, int argc, char** argv)
     if (name == QLatin1String("a_coup")) return play_a_coup();
     if (name == QLatin1String("small_screen")) return play_on_a_small_screen();
     if (name == QLatin1String("no_translations")) return speak_without_translations();
+    if (name.startsWith(QLatin1String("load_"))) return end_in_the_load(name);
     const QString quit = QStringLiteral("quit_");
     must(name.startsWith(quit), "a known case");
     return quit_with_open(name.mid(quit.size()));

@@ -24,6 +24,7 @@ private slots:
     void a_run_from_the_menu_to_its_end();
     void without_the_pause_flag_it_ends_silently();
     void follow_files_show_their_name_with_their_first_number();
+    void a_name_may_hold_what_looks_like_a_place();
     void three_hand_changes_are_three_entries_and_one_coup();
     void a_mark_at_the_beginning_comes_before_the_first_number();
     void a_run_that_ends_on_a_mark_has_no_coup_behind_it();
@@ -242,6 +243,15 @@ void tst_load_run_in_window::follow_files_show_their_name_with_their_first_numbe
     check_end_box();
     QCOMPARE(all_numbers(bench), QList<int>({1, 2, 3, 4}));
     QCOMPARE(load_label(bench), QStringLiteral("hidden"));
+}
+
+void tst_load_run_in_window::a_name_may_hold_what_looks_like_a_place()
+{
+    desktop_bench bench;
+    choose(bench, {{main_edit, file_of("50%1 %2.inp", "1 2 3")}});
+    bench.trigger("actionStart");
+    throw_ball(bench);
+    QCOMPARE(load_label(bench), QStringLiteral("Ladedatei: 50%1 %2.inp (3 Coups)"));
 }
 
 void tst_load_run_in_window::three_hand_changes_are_three_entries_and_one_coup()

@@ -8,6 +8,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QSignalSpy>
 
 using general_player::PLAYER_1;
@@ -43,6 +44,7 @@ private slots:
     void yes_opens_the_download();
     void the_game_waits_for_the_answer();
     void a_changed_text_is_asked_for_before_the_download();
+    void run_and_windows_are_kept_before_the_download();
 
 private:
     box_user user;
@@ -477,6 +479,35 @@ void tst_update_check::a_changed_text_is_asked_for_before_the_download()
     emit bench.window->open_download_dialog("V4.10.0");
     QCOMPARE(user.boxes().size(), 2);
     QCOMPARE(user.dialogs_left(), 0);
+}
+
+// Behind it the program ends without a question, on a disk that may be full then.
+void tst_update_check::run_and_windows_are_kept_before_the_download()
+{
+    small_http_server server;
+    server.answers = [](QTcpSocket& to, const QByteArray&) { to.write(http_answer("part", 1000)); };
+    const update_server_in_use in_use(server.as_update_server());
+    const desktop_bench bench({not_by_itself});
+    bench.trigger("actionStart");
+    bench.play(7);
+    bench.play(0);
+    bench.trigger("actionSysMonitor_2");
+    QByteArray draft;
+    bool is_monitor_kept = false;
+    user.with_dialog("download_update_dialog", [&](QWidget* dialog) {
+        QFile file("Stat_run_1.draft");
+        if (file.open(QIODevice::ReadOnly)) draft = file.readAll();
+        const QSettings places("./zarvello_desktop.ini", QSettings::IniFormat);
+        const QStringList keys = places.allKeys();
+        for (const QString& key : keys)
+            is_monitor_kept |=
+                key.endsWith("_open") && places.value(key).toBool() && !key.contains("MainWindow");
+        dialog->close();
+    });
+    emit bench.window->open_download_dialog("V4.10.0");
+    QVERIFY2(draft.endsWith(" 7 0\n"), draft.constData());
+    QVERIFY(is_monitor_kept);
+    QCOMPARE(bench.settings().state(), game_state::running);
 }
 
 int main(int argc, char** argv)

@@ -19,6 +19,8 @@ private slots:
     void an_empty_path_is_passed_over();
     void a_list_that_cannot_be_kept_does_no_harm();
     void the_menu_tells_what_was_chosen();
+    void odd_names_data();
+    void odd_names();
     void a_menu_without_files_is_disabled();
 
 private:
@@ -133,6 +135,46 @@ void tst_recent_files::the_menu_tells_what_was_chosen()
     menu.actions().at(1)->trigger();
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(chosen.at(0).at(1).toString(), file("a.syf"));
+}
+
+void tst_recent_files::odd_names_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text"); // of the entry
+    const QString many = QString(40, QLatin1Char('a')) + QString(60, QLatin1Char('b'));
+    // clang-format off
+    QTest::newRow("tab")         << "red\tF2.syf"          << "&1  red F2.syf";
+    QTest::newRow("two lines")   << "red\nblack.syf"       << "&1  red black.syf";
+    QTest::newRow("places")      << "%1 %2 100%.syf"       << "&1  %1 %2 100%.syf";
+    QTest::newRow("list marks")  << "@a, \"b\"; c=d.syf"   << "&1  @a, \"b\"; c=d.syf";
+    QTest::newRow("blanks")      << "  .syf"               << "&1    .syf";
+    QTest::newRow("letters")     << QString::fromUtf8("Glück Рулетка 轮.syf")
+                                                           << QString::fromUtf8("&1  Glück Рулетка 轮.syf");
+    QTest::newRow("sixty")       << QString(56, 'a') + ".syf"
+                                                           << "&1  " + QString(56, 'a') + ".syf";
+    QTest::newRow("sixty-one")   << QString(57, 'a') + ".syf"
+                                                           << "&1  " + QString(29, 'a') + QChar(0x2026) +
+                                                              QString(26, 'a') + ".syf";
+    QTest::newRow("very long")   << many + ".syf"          << "&1  " + QString(29, 'a') + QChar(0x2026) +
+                                                              QString(26, 'b') + ".syf";
+    QTest::newRow("ampersands")  << "&&.syf"               << "&1  &&&&.syf";
+    // clang-format on
+}
+
+void tst_recent_files::odd_names()
+{
+    QFETCH(QString, name);
+    const QString path = file(name);
+    recent_files(store()).add(kind::systems, path);
+    recent_files recent(store());
+    QMenu menu;
+    recent.fill(menu, kind::systems);
+    QCOMPARE(menu.actions().size(), 1);
+    QTEST(menu.actions().at(0)->text(), "text");
+    QVERIFY(!menu.actions().at(0)->statusTip().contains('\n'));
+    QSignalSpy chosen(&recent, &recent_files::chosen);
+    menu.actions().at(0)->trigger();
+    QCOMPARE(chosen.at(0).at(1).toString(), path);
 }
 
 void tst_recent_files::a_menu_without_files_is_disabled()

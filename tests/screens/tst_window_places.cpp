@@ -16,6 +16,8 @@ private slots:
     void what_was_open_is_known_at_the_next_start();
     void a_window_that_died_is_not_open();
     void a_spoilt_file_moves_nothing();
+    void absurd_places_data();
+    void absurd_places();
 };
 
 namespace
@@ -143,6 +145,34 @@ void tst_window_places::a_spoilt_file_moves_nothing()
     places.watch(*window);
     QCOMPARE(window->pos(), own);
     QCOMPARE(window->size(), QSize(200, 100));
+}
+
+void tst_window_places::absurd_places_data()
+{
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<bool>("is_taken");
+    QTest::newRow("as large as many screens") << QByteArray("10 20 90000 90000") << true;
+    QTest::newRow("without an end") << QByteArray("10 20 2147483000 2147483000") << false;
+    QTest::newRow("far to the left") << QByteArray("-2147483648 0 2147483647 100") << false;
+    QTest::newRow("far below") << QByteArray("0 2147483600 100 20") << false;
+    QTest::newRow("turned round") << QByteArray("10 20 -300 -200") << false;
+}
+
+void tst_window_places::absurd_places()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(bool, is_taken);
+    QFile file(store());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[windows]\ntable_place=@Rect(" + place + ")\n");
+    file.close();
+    window_places places(store());
+    const auto window = window_of("table");
+    const QPoint own = window->pos();
+    places.watch(*window);
+    const QSize all_screens = QGuiApplication::primaryScreen()->virtualSize();
+    QCOMPARE(window->pos(), is_taken ? QPoint(10, 20) : own);
+    QCOMPARE(window->size(), is_taken ? all_screens : QSize(200, 100));
 }
 
 int main(int argc, char** argv)

@@ -156,6 +156,7 @@ private slots:
     void a_double_zero_is_told();
     void many_illegal_numbers_do_not_flood_the_protocol();
     void the_protocol_follows();
+    void the_protocol_is_legible_on_a_dark_desktop();
 
     void ok_closes();
     void ok_asks_while_the_button_blinks_data();
@@ -638,6 +639,30 @@ void tst_history_dialog::the_protocol_follows()
     const auto& bar = *desk.child<QListWidget>("LW_load_protocol").verticalScrollBar();
     QVERIFY(bar.maximum() > 0);
     QCOMPARE(bar.value(), bar.maximum());
+}
+
+void tst_history_dialog::the_protocol_is_legible_on_a_dark_desktop()
+{
+    const QPalette own = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    {
+        const history_desk desk;
+        desk.click("RB_history_year");
+        desk.load();
+        const QImage protocol = desk.child<QListWidget>("LW_load_protocol").grab().toImage();
+        const int lines = desk.child<QListWidget>("LW_load_protocol").sizeHintForRow(0) * 3;
+        int dark = 0, light = 0;
+        for (int y = 2; y < lines; ++y) {
+            for (int x = 2; x < 300; ++x) {
+                const int brightness = qGray(protocol.pixel(x, y));
+                dark += brightness < 100;
+                light += brightness > 200;
+            }
+        }
+        QVERIFY2(light > 5 * dark, qPrintable(QString("%1 : %2").arg(light).arg(dark)));
+        QVERIFY2(dark > 200, qPrintable(QString::number(dark))); // the black letters
+    }
+    QApplication::setPalette(own);
 }
 
 // ---- the window

@@ -16,6 +16,7 @@ private slots:
 
     void the_file_and_the_run_data();
     void the_file_and_the_run();
+    void of_a_very_long_file_the_end_is_shown();
     void without_a_file_nothing_is_shown_data();
     void without_a_file_nothing_is_shown();
     void the_window_has_its_form();
@@ -61,6 +62,22 @@ void tst_year_file_permanenz::the_file_and_the_run()
     QTEST(text_field(window).toPlainText(), "text");
     QCOMPARE(window.windowTitle(), QString("Stat2018.log (schreibgeschützt)"));
     QVERIFY(text_field(window).isReadOnly());
+}
+
+// Lines of 32 bytes: the last 16 MiB begin in the middle of one, behind which 524287 are left.
+void tst_year_file_permanenz::of_a_very_long_file_the_end_is_shown()
+{
+    const QByteArray line = "01 02 03 04 05 06 07 08 09 10 1\n";
+    QCOMPARE(line.size(), 32);
+    const int lines = 16 * 1024 * 1024 / 32;
+    put(":: first\n" + line.repeated(lines) + ":: last\n05\n\n");
+    const year_file_permanenz window(2018, QString());
+    const QStringList shown = text_field(window).toPlainText().split('\n');
+    QCOMPARE(shown.first(), QString("... (die Datei ist zu lang, gezeigt wird ihr Ende)"));
+    QCOMPARE(shown.mid(shown.size() - 5),
+             QStringList({line.trimmed(), ":: last", "05", "*aktueller Lauf", "-"}));
+    QCOMPARE(shown.count(QString(line.trimmed())), lines - 1);
+    QVERIFY(!shown.contains(":: first"));
 }
 
 void tst_year_file_permanenz::without_a_file_nothing_is_shown_data()
