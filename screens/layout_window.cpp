@@ -1,12 +1,14 @@
 #include "layout_window.h"
 
 #include "design_geometry.h"
+#include "font_fit.h"
 #include "pictures.h"
 #include "setting.h"
 #include "statusprogressbar.h"
 #include "ui_mainwindow.h"
 
 #include <QFile>
+#include <QFontMetrics>
 #include <QTimer>
 
 namespace
@@ -25,6 +27,8 @@ constexpr int overlay_y = 301;
 constexpr int button_font = 12;
 constexpr int number_font = 19;
 constexpr int text_font = 15;
+
+constexpr int menu_rim = 1; // above and below an entry of the menu bar
 
 const char* const button_style = R"(
 QPushButton {
@@ -48,7 +52,7 @@ QPushButton:disabled {
 
 const char* const bar_style = R"(
 QMenuBar, QStatusBar { color: rgb(246, 238, 214); background: rgb(38, 20, 12); }
-QMenuBar::item { padding: 7px 11px; background: transparent; }
+QMenuBar::item { padding: %1px 11px; background: transparent; }
 QMenuBar::item:selected, QMenuBar::item:pressed { background: rgb(96, 24, 22); }
 )";
 
@@ -114,14 +118,27 @@ layout_Window::layout_Window(QMainWindow& window,
         line->setStyleSheet(QString::fromLatin1(line_style));
         line->hide();
     }
+    for (QLabel* note : {ui.LB_to_less_coup1, ui.LB_to_less_coup2}) // on the paper of the charts
+        note->setStyleSheet(QStringLiteral("color: rgb(0, 0, 0);"));
     QPalette cloth = ui.centralwidget->palette();
     cloth.setBrush(QPalette::Window, QBrush(scaled_picture(table_file("table/cloth"), 0.0)));
     ui.centralwidget->setPalette(cloth);
     ui.centralwidget->setAutoFillBackground(true);
-    ui.menubar->setStyleSheet(QString::fromLatin1(bar_style));
-    ui.statusbar->setStyleSheet(QString::fromLatin1(bar_style));
+    style_bars();
     ui.menubar->setFixedHeight(design::menu_bar_height);
     ui.statusbar->setFixedHeight(design::status_bar_height);
+}
+
+/// The height of the menu bar is fixed: an entry that is higher would not be shown at all.
+void layout_Window::style_bars()
+{
+    const QSize room(design::window_width, design::menu_bar_height - 2 * menu_rim);
+    const QFont font = font_for_room(ui.menubar->font(), QString(), room);
+    const int padding = (design::menu_bar_height - QFontMetrics(font).height()) / 2 - menu_rim;
+    const QString style = QString::fromLatin1(bar_style).arg(padding);
+    ui.menubar->setStyleSheet(style);
+    ui.menubar->setFont(font);
+    ui.statusbar->setStyleSheet(style);
 }
 
 QRect layout_Window::scaled_rect(const QRect& rect) const

@@ -71,6 +71,7 @@ signals:
     void set_main_window_size(int width, int height);
 
 private:
+    void style_bars();
     void place_labels();
     void place_last_numbers();
     void place_buttons();

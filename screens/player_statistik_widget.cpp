@@ -77,6 +77,8 @@ void player_statistik_widget::set_texts()
     rows[minus_coups].caption->setText(tr("Minus-Coups"));
     rows[seeded].caption->setText(tr("Letzter Einsatz"));
     rows[win].caption->setText(tr("Gewinn/Verlust"));
+    for (const auto& each : rows)
+        each.figure->setAccessibleDescription(each.caption->text());
     fit_fonts();
 }
 

@@ -116,8 +116,12 @@ void player_status_widget::set_texts()
     captions[0]->setText(tr("Status"));
     captions[1]->setText(tr("Gesetzt"));
     captions[2]->setText(tr("Kapital"));
-    for (std::size_t i = 0; i < player_count; ++i)
-        columns[i].name->setText(tr("Spieler %1").arg(i + 1));
+    for (std::size_t i = 0; i < player_count; ++i) {
+        const QString name = tr("Spieler %1").arg(i + 1);
+        columns[i].name->setText(name);
+        columns[i].seeded->setAccessibleDescription(name + ", " + tr("Gesetzt"));
+        columns[i].credit->setAccessibleDescription(name + ", " + tr("Kapital"));
+    }
     fit_fonts();
 }
 

@@ -1,6 +1,7 @@
 #include "wheelwidget.h"
 
 #include "design_geometry.h"
+#include "number_records.h"
 #include "number_table.h"
 #include "pictures.h"
 #include "setting.h"
@@ -103,6 +104,7 @@ wheelWidget::wheelWidget(QWidget* parent, double reduction, bool american_wheel)
     add_ball(scene(), reduction);
     connect_animations();
     lay_cloth();
+    tell_number();
 }
 
 void wheelWidget::set_up_view(int side)
@@ -118,6 +120,7 @@ void wheelWidget::set_up_view(int side)
     setCacheMode(CacheBackground);
     setAttribute(Qt::WA_NoSystemBackground);
     viewport()->setAutoFillBackground(false);
+    viewport()->setFocusPolicy(Qt::NoFocus);
 
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -265,6 +268,8 @@ void wheelWidget::animation_ball_finish()
     // The queued end of a throw that was stopped can arrive when the next one is under way.
     if (!ball_under_way || is_running(ball_animation)) return;
     ball_under_way = false;
+    shows_number = true;
+    tell_number();
 
     ball_angle_start = ball_angle_end;
     while (ball_angle_start < full_turn)
@@ -275,6 +280,19 @@ void wheelWidget::animation_ball_finish()
         return;
     }
     emit throw_finished();
+}
+
+void wheelWidget::tell_number()
+{
+    setAccessibleName(tr("Kessel"));
+    setAccessibleDescription(shows_number ? tr("Kugel auf %1").arg(number_text(number))
+                                          : QString());
+}
+
+void wheelWidget::changeEvent(QEvent* event)
+{
+    QGraphicsView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) tell_number();
 }
 
 void wheelWidget::mousePressEvent(QMouseEvent* event)

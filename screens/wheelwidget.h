@@ -59,6 +59,7 @@ signals:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void set_up_view(int side);
@@ -66,6 +67,7 @@ private:
     void add_ball(QGraphicsScene* scene, double reduction);
     void connect_animations();
     void lay_cloth();
+    void tell_number(); ///< in whose pocket the ball rests, to a reader of the screen
     void run_throw();
     int pocket_count() const;
 
@@ -87,6 +89,7 @@ private:
     double pocket_angle;
     QGraphicsProxyWidget* wheel_item = nullptr;
     QGraphicsProxyWidget* ball_item = nullptr;
+    bool shows_number = false;   ///< the ball has been laid into a pocket
     bool ball_under_way = false; ///< a throw has begun and its end isn't dealt with
 };
 

@@ -1,6 +1,7 @@
 #include "download_update_dialog.h"
 
 #include "font_fit.h"
+#include "legible_colour.h"
 #include "ui_download_update_dialog.h"
 #include "update_server.h"
 
@@ -135,7 +136,9 @@ void download_update_dialog::show_failure()
 {
     current_phase = phase::failed;
     ui->PB_download->hide();
-    ui->LB_download_complete->setStyleSheet(QStringLiteral("QLabel { color : red; }"));
+    const QColor colour = legible_colour(Qt::red, palette().color(QPalette::Window));
+    const QString name = colour == Qt::red ? QStringLiteral("red") : colour.name();
+    ui->LB_download_complete->setStyleSheet(QStringLiteral("QLabel { color : %1; }").arg(name));
     ui->buttonBox->setStandardButtons(QDialogButtonBox::Close);
     show_texts();
     ui->LB_download_complete->show();

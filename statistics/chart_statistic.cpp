@@ -186,6 +186,7 @@ QString chart_statistic::x_title() const
 void chart_statistic::set_texts()
 {
     print_button->setText(tr("Drucken"));
+    ui->chart_stat_display->canvas()->setAccessibleName(ui->chart_stat_display->accessibleName());
     ui->COB_occurrence->setItemText(0, tr("Wie oft?"));
     ui->COB_occurrence->setItemText(1, tr("Seit wann nicht?"));
     for (int entry = 0; entry < chart_bet_kind_count; ++entry)

@@ -54,6 +54,8 @@ chart_statistic_player::chart_statistic_player(const statistic_data& store,
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     player_boxes = {ui->CB_player_1, ui->CB_player_2, ui->CB_player_3, ui->CB_player_4};
     build_buttons();
+    setTabOrder(ui->CB_display_Y_Grid, ui->chart_stat_player_display->canvas());
+    setTabOrder(ui->chart_stat_player_display->canvas(), ui->COB_player_tbl_sel);
     scale_chart_dialog(*this, scale_reduction);
     build_table();
     ui->chart_stat_player_display->set_fonts(chart_fonts(font(), scale_reduction));
@@ -267,6 +269,8 @@ void chart_statistic_player::on_COB_player_tbl_sel_currentIndexChanged(int /*ind
 void chart_statistic_player::set_texts()
 {
     print_button->setText(tr("Drucken"));
+    ui->chart_stat_player_display->canvas()->setAccessibleName(
+        ui->chart_stat_player_display->accessibleName());
     const QStringList heads = {tr("Startkapital"),
                                tr("Coups"),
                                tr("Gewinncoups"),

@@ -88,6 +88,15 @@ QStringList texts_of_row(const QTableWidget& table, int row)
     return texts;
 }
 
+QString name_of(const statistic_cells::section& what, const QTableWidget& table)
+{
+    const QStringList heads = texts_of_row(table, head_row);
+    if (what.label && what.tables.size() == 1) return what.label->text();
+    const QString range =
+        heads.size() > 1 ? heads.first() + QStringLiteral(" - ") + heads.last() : heads.value(0);
+    return what.label ? what.label->text() + QStringLiteral(": ") + range : range;
+}
+
 } // namespace
 
 QTableWidgetItem*
@@ -146,6 +155,14 @@ void statistic_cells::build(const section& what)
             table.setItem(head_row, column, head_cell(table, heads.at(column)));
             table.setItem(value_row, column, value_cell(table));
         }
+    }
+}
+
+void statistic_cells::name_tables(const QVector<section>& sections)
+{
+    for (const section& what : sections) {
+        for (QTableWidget* table : what.tables)
+            table->setAccessibleName(name_of(what, *table));
     }
 }
 

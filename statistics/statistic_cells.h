@@ -31,6 +31,9 @@ struct section {
 /// they don't divide, the last table is shorter. All values are "0".
 void build(const section& what);
 
+/// Tells a reader of the screen the names of all tables, by their labels as they are now.
+void name_tables(const QVector<section>& sections);
+
 /// Writes the values, each against the greatest of its comparison set.
 /// @param values  one per head
 void fill(const section& what, const QList<int>& values);

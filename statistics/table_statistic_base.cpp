@@ -101,6 +101,7 @@ void table_statistic_base::set_texts()
     colour_head(*ui->TW_EC->item(0, black_column), QColor(0, 0, 0), tr("SCHWARZ"));
     print_button->setText(tr("Print"));
     set_terms();
+    statistic_cells::name_tables(sections);
 }
 
 void table_statistic_base::set_terms()

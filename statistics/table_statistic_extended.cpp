@@ -82,6 +82,7 @@ void table_statistic_extended::set_texts()
     setWindowTitle(type == 1 ? tr("Annoncen - Seit wann nicht?") : tr("Annoncen - Wie oft?"));
     ui->GB_extended->setTitle(windowTitle()); // so that a printed page tells what it is
     print_button->setText(tr("Print"));
+    statistic_cells::name_tables(sections);
 }
 
 QVector<QStringList> table_statistic_extended::rows() const

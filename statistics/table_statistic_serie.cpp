@@ -92,6 +92,7 @@ void table_statistic_serie::set_texts()
 {
     setWindowTitle(tr("Serien"));
     print_button->setText(tr("Print"));
+    statistic_cells::name_tables(sections);
 }
 
 QWidget* table_statistic_serie::current_page() const

@@ -498,6 +498,14 @@ Soll das Programm trotzdem beendet werden?</source>
         <translation>The year permanence &quot;%1&quot; could not be written!
 Quit the program all the same?</translation>
     </message>
+    <message>
+        <source>Spieltisch</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>Letzte Zahlen</source>
+        <translation>Last numbers</translation>
+    </message>
 </context>
 <context>
     <name>Options</name>
@@ -735,6 +743,30 @@ Die Einstellungen gelten nur bis zum Ende des Programms.</source>
         <translation>The file zarvello.ini could not be written!
 The settings hold only until the program ends.</translation>
     </message>
+    <message>
+        <source>Setzzeit in Sekunden</source>
+        <translation>Betting time in seconds</translation>
+    </message>
+    <message>
+        <source>Wert eines Stücks</source>
+        <translation>Worth of a piece</translation>
+    </message>
+    <message>
+        <source>Historie ab Jahr</source>
+        <translation>History from year</translation>
+    </message>
+    <message>
+        <source>Historie der letzten Tage</source>
+        <translation>History of the last days</translation>
+    </message>
+    <message>
+        <source>Historie ab Datum</source>
+        <translation>History from date</translation>
+    </message>
+    <message>
+        <source>Größe der Anzeige</source>
+        <translation>Size of the display</translation>
+    </message>
 </context>
 <context>
     <name>StatusProgressBar</name>
@@ -773,6 +805,10 @@ The settings hold only until the program ends.</translation>
     <message>
         <source>Manuell / Pause</source>
         <translation>Manual / Pause</translation>
+    </message>
+    <message>
+        <source>Setzzeit</source>
+        <translation>Betting time</translation>
     </message>
 </context>
 <context>
@@ -903,6 +939,18 @@ The settings hold only until the program ends.</translation>
         <source>Horiz. Raster anzeigen</source>
         <translation>Show horiz. grid</translation>
     </message>
+    <message>
+        <source>Art der Statistik</source>
+        <translation>Kind of statistic</translation>
+    </message>
+    <message>
+        <source>Chancen</source>
+        <translation>Bets</translation>
+    </message>
+    <message>
+        <source>Diagramm</source>
+        <translation>Chart</translation>
+    </message>
 </context>
 <context>
     <name>chart_statistic_player</name>
@@ -978,6 +1026,18 @@ The settings hold only until the program ends.</translation>
         <source>Gesetzt (gestrichelt)</source>
         <translation>Stake (dashed line)</translation>
     </message>
+    <message>
+        <source>Diagramm</source>
+        <translation>Chart</translation>
+    </message>
+    <message>
+        <source>Spieler der Tabelle</source>
+        <translation>Player of the table</translation>
+    </message>
+    <message>
+        <source>Werte des Spielers</source>
+        <translation>Figures of the player</translation>
+    </message>
 </context>
 <context>
     <name>chart_statistic_player_widget</name>
@@ -1014,6 +1074,10 @@ The program will close and the update will be installed!</translation>
 Laden Sie bitte den Update direkt von der Homepage herunter!</source>
         <translation>The download was broken off by an error!
 Please download the update directly from the homepage!</translation>
+    </message>
+    <message>
+        <source>Fortschritt des Downloads</source>
+        <translation>Progress of the download</translation>
     </message>
 </context>
 <context>
@@ -1196,6 +1260,18 @@ Please download the update directly from the homepage!</translation>
         <source>Sollen die Änderungen gespeichert werden?</source>
         <translation>Save the changes?</translation>
     </message>
+    <message>
+        <source>Text der Datei</source>
+        <translation>Text of the file</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Schriftgröße</source>
+        <translation>Font size</translation>
+    </message>
 </context>
 <context>
     <name>file_saver</name>
@@ -1267,6 +1343,10 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>Ersetzt: %1</source>
         <translation>Replaced: %1</translation>
+    </message>
+    <message>
+        <source>Suche schließen</source>
+        <translation>Close search</translation>
     </message>
 </context>
 <context>
@@ -1457,6 +1537,33 @@ Please download the update directly from the homepage!</translation>
         <source>Soll trotzdem geschlossen werden?</source>
         <translation>Close all the same?</translation>
     </message>
+    <message>
+        <source>Historie ab Jahr</source>
+        <translation>History from year</translation>
+    </message>
+    <message>
+        <source>Historie der letzten Tage</source>
+        <translation>History of the last days</translation>
+    </message>
+    <message>
+        <source>Historie ab Datum</source>
+        <translation>History from date</translation>
+    </message>
+    <message>
+        <source>Ladedatei der Historie</source>
+        <translation>Load file of the history</translation>
+    </message>
+    <message>
+        <source>Datei auswählen</source>
+        <translation>Choose a file</translation>
+    </message>
+</context>
+<context>
+    <name>jeton_button</name>
+    <message>
+        <source>Spieler %1, %2: %3 Stück</source>
+        <translation>Player %1, %2: Pieces: %3</translation>
+    </message>
 </context>
 <context>
     <name>line_sieve</name>
@@ -1603,6 +1710,102 @@ Please download the update directly from the homepage!</translation>
         <source>Sollen die neuen Ladedateien übernommen werden?</source>
         <translation>Do you want to use the new load files?</translation>
     </message>
+    <message>
+        <source>Coups der Hauptladedatei</source>
+        <translation>Coups of the main load file</translation>
+    </message>
+    <message>
+        <source>Reset Hauptladedatei</source>
+        <translation>Reset main load file</translation>
+    </message>
+    <message>
+        <source>Fix Start ab Coup</source>
+        <translation>Fixed start from coup</translation>
+    </message>
+    <message>
+        <source>Zufall Start 1 von</source>
+        <translation>Random start 1 from</translation>
+    </message>
+    <message>
+        <source>Zufall Start 1 bis</source>
+        <translation>Random start 1 to</translation>
+    </message>
+    <message>
+        <source>Zufall Start 2 max. Angriffe</source>
+        <translation>Random start 2 max. attacks</translation>
+    </message>
+    <message>
+        <source>Zufall Start 2 Dauer</source>
+        <translation>Random start 2 length</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 1</source>
+        <translation>Follow file 1</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 1</source>
+        <translation>Coups of follow file 1</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 2</source>
+        <translation>Follow file 2</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 2</source>
+        <translation>Coups of follow file 2</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 3</source>
+        <translation>Follow file 3</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 3</source>
+        <translation>Coups of follow file 3</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 4</source>
+        <translation>Follow file 4</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 4</source>
+        <translation>Coups of follow file 4</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 5</source>
+        <translation>Follow file 5</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 5</source>
+        <translation>Coups of follow file 5</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 6</source>
+        <translation>Follow file 6</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 6</source>
+        <translation>Coups of follow file 6</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 7</source>
+        <translation>Follow file 7</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 7</source>
+        <translation>Coups of follow file 7</translation>
+    </message>
+    <message>
+        <source>Folgeladedatei 8</source>
+        <translation>Follow file 8</translation>
+    </message>
+    <message>
+        <source>Coups der Folgeladedatei 8</source>
+        <translation>Coups of follow file 8</translation>
+    </message>
+    <message>
+        <source>Reset Sammelladedatei</source>
+        <translation>Reset collection file</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -1747,6 +1950,10 @@ Please download the update directly from the homepage!</translation>
         <source>Nr.</source>
         <translation>No.</translation>
     </message>
+    <message>
+        <source>Verlauf</source>
+        <translation>Course</translation>
+    </message>
 </context>
 <context>
     <name>muster_statistic_serien</name>
@@ -1839,6 +2046,13 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>S: Ungültige Überprüfung (kein V): %1 !</source>
         <translation>S: Invalid test (no V): %1 !</translation>
+    </message>
+</context>
+<context>
+    <name>permanenz_widget</name>
+    <message>
+        <source>Gefallene Zahlen</source>
+        <translation>Numbers that have come</translation>
     </message>
 </context>
 <context>
@@ -2048,6 +2262,14 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>Ein Klick schaltet die Wiederholung der letzten Setzung ein oder aus.</source>
         <translation>A click switches the repetition of the last bet on or off.</translation>
+    </message>
+    <message>
+        <source>Spieler %1</source>
+        <translation>Player %1</translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation>Repeat bet</translation>
     </message>
 </context>
 <context>
@@ -2429,6 +2651,102 @@ Please download the update directly from the homepage!</translation>
         <source>Die Systemspieldatei für Spieler%1 wurde geändert - Änderung beibehalten?</source>
         <translation>The system file of player %1 was changed - keep the change?</translation>
     </message>
+    <message>
+        <source>System aktiv, Spieler 1</source>
+        <translation>System active, player 1</translation>
+    </message>
+    <message>
+        <source>Systemdatei, Spieler 1</source>
+        <translation>System file, player 1</translation>
+    </message>
+    <message>
+        <source>Reset Systemdatei, Spieler 1</source>
+        <translation>Reset system file, player 1</translation>
+    </message>
+    <message>
+        <source>Protokoll aktiv, Spieler 1</source>
+        <translation>Protocol active, player 1</translation>
+    </message>
+    <message>
+        <source>Protokolldatei, Spieler 1</source>
+        <translation>Protocol file, player 1</translation>
+    </message>
+    <message>
+        <source>Reset Protokolldatei, Spieler 1</source>
+        <translation>Reset protocol file, player 1</translation>
+    </message>
+    <message>
+        <source>System aktiv, Spieler 2</source>
+        <translation>System active, player 2</translation>
+    </message>
+    <message>
+        <source>Systemdatei, Spieler 2</source>
+        <translation>System file, player 2</translation>
+    </message>
+    <message>
+        <source>Reset Systemdatei, Spieler 2</source>
+        <translation>Reset system file, player 2</translation>
+    </message>
+    <message>
+        <source>Protokoll aktiv, Spieler 2</source>
+        <translation>Protocol active, player 2</translation>
+    </message>
+    <message>
+        <source>Protokolldatei, Spieler 2</source>
+        <translation>Protocol file, player 2</translation>
+    </message>
+    <message>
+        <source>Reset Protokolldatei, Spieler 2</source>
+        <translation>Reset protocol file, player 2</translation>
+    </message>
+    <message>
+        <source>System aktiv, Spieler 3</source>
+        <translation>System active, player 3</translation>
+    </message>
+    <message>
+        <source>Systemdatei, Spieler 3</source>
+        <translation>System file, player 3</translation>
+    </message>
+    <message>
+        <source>Reset Systemdatei, Spieler 3</source>
+        <translation>Reset system file, player 3</translation>
+    </message>
+    <message>
+        <source>Protokoll aktiv, Spieler 3</source>
+        <translation>Protocol active, player 3</translation>
+    </message>
+    <message>
+        <source>Protokolldatei, Spieler 3</source>
+        <translation>Protocol file, player 3</translation>
+    </message>
+    <message>
+        <source>Reset Protokolldatei, Spieler 3</source>
+        <translation>Reset protocol file, player 3</translation>
+    </message>
+    <message>
+        <source>System aktiv, Spieler 4</source>
+        <translation>System active, player 4</translation>
+    </message>
+    <message>
+        <source>Systemdatei, Spieler 4</source>
+        <translation>System file, player 4</translation>
+    </message>
+    <message>
+        <source>Reset Systemdatei, Spieler 4</source>
+        <translation>Reset system file, player 4</translation>
+    </message>
+    <message>
+        <source>Protokoll aktiv, Spieler 4</source>
+        <translation>Protocol active, player 4</translation>
+    </message>
+    <message>
+        <source>Protokolldatei, Spieler 4</source>
+        <translation>Protocol file, player 4</translation>
+    </message>
+    <message>
+        <source>Reset Protokolldatei, Spieler 4</source>
+        <translation>Reset protocol file, player 4</translation>
+    </message>
 </context>
 <context>
     <name>table_follow_number</name>
@@ -2440,6 +2758,18 @@ Please download the update directly from the homepage!</translation>
         <source>Drucken</source>
         <translation>Print</translation>
     </message>
+    <message>
+        <source>Tabellen</source>
+        <translation>Tables</translation>
+    </message>
+    <message>
+        <source>Folgezahlen 0-18</source>
+        <translation>Follow numbers 0-18</translation>
+    </message>
+    <message>
+        <source>Folgezahlen 19-36</source>
+        <translation>Follow numbers 19-36</translation>
+    </message>
 </context>
 <context>
     <name>table_frequency</name>
@@ -2450,6 +2780,10 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>Drucken</source>
         <translation>Print</translation>
+    </message>
+    <message>
+        <source>Tabellen</source>
+        <translation>Tables</translation>
     </message>
 </context>
 <context>
@@ -2542,6 +2876,10 @@ Please download the update directly from the homepage!</translation>
         <source>Street (TP01 - TP14)</source>
         <translation>Street (TP01 - TP14)</translation>
     </message>
+    <message>
+        <source>Tabellen</source>
+        <translation>Tables</translation>
+    </message>
 </context>
 <context>
     <name>table_statistic_extended</name>
@@ -2576,6 +2914,10 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>Print</source>
         <translation>Print</translation>
+    </message>
+    <message>
+        <source>Tabellen</source>
+        <translation>Tables</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2977,17 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>Print</source>
         <translation>Print</translation>
+    </message>
+</context>
+<context>
+    <name>wheelWidget</name>
+    <message>
+        <source>Kessel</source>
+        <translation>Wheel</translation>
+    </message>
+    <message>
+        <source>Kugel auf %1</source>
+        <translation>Ball on %1</translation>
     </message>
 </context>
 <context>
@@ -2763,6 +3116,10 @@ Please download the update directly from the homepage!</translation>
     <message>
         <source>... (die Datei ist zu lang, gezeigt wird ihr Ende)</source>
         <translation>... (the file is too long, its end is shown)</translation>
+    </message>
+    <message>
+        <source>Jahrespermanenz</source>
+        <translation>Year permanence</translation>
     </message>
 </context>
 </TS>

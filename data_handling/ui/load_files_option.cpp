@@ -1,6 +1,7 @@
 #include "load_files_option.h"
 
 #include "file_dialog.h"
+#include "legible_colour.h"
 #include "load_file_reader.h"
 #include "message_box.h"
 #include "numberstorage.h"
@@ -39,6 +40,7 @@ load_files_option::load_files_option(numberStorage& numbers,
 
     ui->setupUi(this);
     show_disabled_texts_legibly();
+    show_warning_legibly();
     setWindowIcon(QIcon(QStringLiteral(":/general/grafik/icon/Roul10.ico")));
     path_edits = {ui->LE_loadfile_main,
                   ui->LE_loadfile_follow_1,
@@ -99,6 +101,15 @@ void load_files_option::show_disabled_texts_legibly()
                             (2 * text.green() + base.green()) / 3,
                             (2 * text.blue() + base.blue()) / 3));
     setPalette(colours);
+}
+
+void load_files_option::show_warning_legibly()
+{
+    const QColor colour = legible_colour(Qt::red, palette().color(QPalette::Window));
+    ui->LB_00_warning->setStyleSheet(QStringLiteral("color: rgb(%1, %2, %3);")
+                                         .arg(colour.red())
+                                         .arg(colour.green())
+                                         .arg(colour.blue()));
 }
 
 load_files_option::~load_files_option()

@@ -88,6 +88,7 @@ private:
     QString ask_for_file(general_loadfile::loadfile_type load_file_type);
     bool ask_user(const QString& title, const QString& text);
     void show_disabled_texts_legibly();
+    void show_warning_legibly();
     void take_file(int wanted_place, const QString& path);
     void put_file(int place, const QString& path);
     bool take_collection(const QString& path);

@@ -62,6 +62,7 @@ permanenz_widget::permanenz_widget(std::vector<quint8> numbers,
     , is_filled(static_cast<std::size_t>(blocks), false)
 {
     table->setObjectName(QStringLiteral("permanence_table"));
+    table->setAccessibleName(tr("Gefallene Zahlen"));
     table->setFrameShape(QFrame::NoFrame);
     table->setShowGrid(false);
     table->setSelectionMode(QAbstractItemView::NoSelection);

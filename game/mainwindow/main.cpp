@@ -1,3 +1,4 @@
+#include "dense_screen.h"
 #include "mainwindow_start.h"
 #include "message_box.h"
 #include "program_language.h"
@@ -29,6 +30,7 @@ static int tell_missing_folder()
 int main(int argc, char** argv)
 {
     try {
+        use_dense_screens();
         QApplication application(argc, argv);
         QCoreApplication::setApplicationName(QStringLiteral("Zarvello"));
         QCoreApplication::setApplicationVersion(QStringLiteral(ZARVELLO_VERSION));

@@ -17,6 +17,12 @@
 
 static constexpr int blink_ticks = 10;
 
+static QString text_of_last_number(int number)
+{
+    if (number == number_code::no_number) return {};
+    return number == number_code::hand_change ? QStringLiteral("--") : number_text(number);
+}
+
 static int within_int(qint64 value)
 {
     using limits = std::numeric_limits<int>;
@@ -88,8 +94,13 @@ void MainWindow::show_last_numbers()
     QList<int> numbers = number_storage.last_numbers(last_number_labels, true);
     while (numbers.size() < last_number_labels)
         numbers.prepend(number_code::no_number);
-    for (int i = 0; i < last_number_labels; ++i)
+    QStringList texts;
+    for (int i = 0; i < last_number_labels; ++i) {
         show_last_number(static_cast<std::size_t>(i), numbers[i]);
+        const QString text = text_of_last_number(numbers[i]);
+        if (!text.isEmpty()) texts.prepend(text);
+    }
+    ui->LB_last_numbers_png->setAccessibleDescription(texts.join(QStringLiteral(", ")));
     end_blink();
 }
 
@@ -100,7 +111,7 @@ void MainWindow::show_last_number(std::size_t row, int number)
     const bool is_number = number_code::is_number(number);
     const number_colour colour = colour_of(number);
     const bool is_zero = is_number && colour == number_colour::green;
-    const QString text = is_mark ? QStringLiteral("--") : number_text(number);
+    const QString text = text_of_last_number(number);
 
     const auto show = [&](QLabel* label, bool is_shown, const QString& own_style) {
         const QString style = is_zero ? QStringLiteral("color: rgb(0, 128, 0);") : own_style;

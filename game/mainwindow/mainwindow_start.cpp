@@ -8,7 +8,8 @@
 
 int run_mainwindow()
 {
-    QSplashScreen splash(scaled_picture(QStringLiteral(":/splash/grafik/splash/explo-3.png"), 0.0));
+    QSplashScreen splash(scaled_picture(
+        QStringLiteral(":/splash/grafik/splash/explo-3.png"), 0.0, qApp->devicePixelRatio()));
     splash.show();
     QCoreApplication::processEvents();
     MainWindow window;

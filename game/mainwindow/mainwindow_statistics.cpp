@@ -62,6 +62,8 @@ void MainWindow::set_hot_cold_titles()
 {
     hot_place.chart->set_titles(tr("Hot"), {}, {}, Qt::red);
     cold_place.chart->set_titles(tr("Cold"), {}, {}, Qt::blue);
+    hot_place.chart->setAccessibleName(tr("Hot"));
+    cold_place.chart->setAccessibleName(tr("Cold"));
 }
 
 void MainWindow::update_cold_hot_data()
@@ -88,6 +90,7 @@ void MainWindow::show_ranks(ranked_chart& place, const QList<statistic_number_ra
     }
     const auto [lowest, highest] = std::minmax_element(counts.cbegin(), counts.cend());
     place.chart->set_labels(texts);
+    place.chart->setAccessibleDescription(texts.join(QStringLiteral(", ")));
     place.chart->set_values(counts, bar_labels::list);
     if (place.axis.update(static_cast<qint64>(*highest), static_cast<qint64>(*lowest))) {
         place.chart->set_y_scale(static_cast<double>(place.axis.lower()),
@@ -100,8 +103,10 @@ void MainWindow::show_ranks(ranked_chart& place, const QList<statistic_number_ra
 void MainWindow::empty_hot_cold_charts()
 {
     has_ranks = false;
-    for (const ranked_chart* place : {&hot_place, &cold_place})
+    for (const ranked_chart* place : {&hot_place, &cold_place}) {
         place->chart->show_empty(shown_numbers);
+        place->chart->setAccessibleDescription({});
+    }
     ui->LB_to_less_coup1->show();
     ui->LB_to_less_coup2->show();
 }

@@ -1,3 +1,4 @@
+#include "legible_colour.h"
 #include "mainwindow.h"
 #include "message_box.h"
 #include "numberstorage.h"
@@ -9,6 +10,7 @@
 #include "system_pattern.h"
 #include "system_seats.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QIcon>
 #include <QSpacerItem>
@@ -35,7 +37,9 @@ void widen(QMessageBox& box, int spacer_width)
 /// the line becomes a mark of the whole line.
 QString marked_line(sys_result_info& info)
 {
-    const QString whole_begin = QStringLiteral("<b><FONT COLOR='#800000'>");
+    const QColor ground = QApplication::palette("QMessageBox").color(QPalette::Window);
+    const QString whole_begin = QStringLiteral("<b><FONT COLOR='%1'>")
+                                    .arg(legible_colour(QColor(128, 0, 0), ground).name());
     const QString whole_end = QStringLiteral("</FONT></b>");
     const QString& line = info.line_text;
     const int place = info.mark_text.isEmpty() ? -1 : line.indexOf(info.mark_text);

@@ -2,6 +2,7 @@
 
 #include "chance_geometry.h"
 #include "font_fit.h"
+#include "jetons.h"
 #include "pictures.h"
 
 #include <QMouseEvent>
@@ -32,6 +33,7 @@ jeton_button::jeton_button(const jeton_info& info, QWidget* parent)
     increase_timer.setInterval(repeat_interval);
     decrease_timer.setInterval(repeat_interval);
     tell_long_count();
+    tell_name();
     connect(&increase_timer, &QTimer::timeout, this, &jeton_button::ask_for_more);
     connect(&decrease_timer, &QTimer::timeout, this, &jeton_button::ask_for_less);
 }
@@ -42,6 +44,7 @@ void jeton_button::set_stack(int value, int count)
     if (shown.count == count) return;
     shown.count = count;
     tell_long_count();
+    tell_name();
     update();
 }
 
@@ -54,6 +57,22 @@ void jeton_button::tell_long_count()
     } else if (!toolTip().isEmpty()) {
         setToolTip({});
     }
+}
+
+void jeton_button::tell_name()
+{
+    const jetons& names = jetons::instance();
+    const QString place = names.display_text(shown.jeton);
+    setAccessibleName(tr("Spieler %1, %2: %3 Stück")
+                          .arg(shown.player + 1)
+                          .arg(place.isEmpty() ? jetons::name(shown.jeton) : place)
+                          .arg(shown.count));
+}
+
+void jeton_button::changeEvent(QEvent* event)
+{
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) tell_name();
 }
 
 void jeton_button::place_on(table_form form, double reduction)

@@ -44,6 +44,7 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -51,6 +52,7 @@ protected:
 
 private:
     void tell_long_count();
+    void tell_name(); ///< to a reader of the screen
     jeton_info one_piece() const;
     void ask_for_more() { emit request_increaseJeton(one_piece()); }
     void ask_for_less() { emit request_decreaseJeton(one_piece()); }

@@ -60,7 +60,18 @@ void status_button::show_own_status()
         style += QStringLiteral("border-image: url(:/table/grafik/playertable/replay.png);");
     if (styleSheet() != style) setStyleSheet(style);
     if (text() != status_text) setText(status_text);
+    tell_name();
     setToolTip(tr("Ein Klick schaltet die Wiederholung der letzten Setzung ein oder aus."));
+}
+
+void status_button::tell_name()
+{
+    QStringList parts = {tr("Spieler %1").arg(player + 1)};
+    if (current_status == status::active) parts.append(tr("Aktiv"));
+    if (current_status == status::system) parts.append(tr("System"));
+    if (players.table().account_of(player).replay) parts.append(tr("Wiederholen"));
+    const QString name = parts.join(QStringLiteral(", "));
+    if (accessibleName() != name) setAccessibleName(name);
 }
 
 void status_button::display_score(qlonglong score)

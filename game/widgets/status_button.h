@@ -67,6 +67,7 @@ protected:
 private:
     void switch_replay();
     void show_own_status();
+    void tell_name(); ///< to a reader of the screen
     void end_count();
     int next_step() const;
 

@@ -67,6 +67,7 @@ StatusProgressBar::StatusProgressBar(QWidget* parent)
 
     configure(0, 1000, warn_percent, alarm_percent);
     setValue(0);
+    tell_phase();
 }
 
 void StatusProgressBar::configure(int minimum, int maximum, int warn, int alarm)
@@ -88,10 +89,17 @@ void StatusProgressBar::run(const std::function<bar_change()>& step)
 
     const int painted_width = width_of(value());
     set_value_unpainted(change.new_value);
+    if (change.repaint) tell_phase();
     if (change.repaint || width_of(change.new_value) != painted_width) repaint();
     if (change.start_throw) emit start_wheel_throw();
     if (change.block_bets) emit block_player_bets();
     if (change.end_short_game) emit deactivate_supershortgame();
+}
+
+void StatusProgressBar::tell_phase()
+{
+    setAccessibleName(tr("Setzzeit"));
+    setAccessibleDescription(text());
 }
 
 /// `setValue()` paints at every tick; most of them move no pixel of the bar.
@@ -428,5 +436,7 @@ void StatusProgressBar::paint_time(QPainter& painter, const QRect& area) const
 void StatusProgressBar::changeEvent(QEvent* event)
 {
     QProgressBar::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) update();
+    if (event->type() != QEvent::LanguageChange) return;
+    tell_phase();
+    update();
 }

@@ -110,6 +110,7 @@ private:
 
     void run(const std::function<bar_change()>& step);
     void set_value_unpainted(int new_value);
+    void tell_phase(); ///< to a reader of the screen
 
     // With the lock held.
     bar_change change_nothing() const { return {value()}; }

@@ -252,6 +252,10 @@ void editor_window::changeEvent(QEvent* event)
 void editor_window::show_texts()
 {
     highlighter_action->refresh_text();
+    font_combo->setAccessibleName(tr("Schriftart"));
+    font_combo->setToolTip(font_combo->accessibleName());
+    size_combo->setAccessibleName(tr("Schriftgröße"));
+    size_combo->setToolTip(size_combo->accessibleName());
     if (!error_on_show.error_text.isEmpty()) show_error(error_on_show.error_text);
     show_title();
     show_state();

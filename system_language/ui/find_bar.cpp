@@ -60,11 +60,23 @@ void find_bar::build_layout()
     layout->addWidget(replace_edit, 1, 1);
     layout->addWidget(replace_button, 1, 2);
     layout->addWidget(replace_all_button, 1, 3);
+    search_label->setBuddy(search_edit);
+    replace_label->setBuddy(replace_edit);
     layout->setColumnStretch(1, 3);
     layout->setColumnStretch(5, 1);
     for (QPushButton* button :
          {next_button, previous_button, replace_button, replace_all_button, close_button})
         button->setAutoDefault(false);
+    const std::initializer_list<QWidget*> from_left_to_right = {search_edit,
+                                                                previous_button,
+                                                                next_button,
+                                                                case_box,
+                                                                close_button,
+                                                                replace_edit,
+                                                                replace_button,
+                                                                replace_all_button};
+    for (auto after = from_left_to_right.begin() + 1; after != from_left_to_right.end(); ++after)
+        setTabOrder(*(after - 1), *after);
 }
 
 void find_bar::show_texts()
@@ -76,6 +88,7 @@ void find_bar::show_texts()
     replace_button->setText(tr("Ersetzen"));
     replace_all_button->setText(tr("Alle ersetzen"));
     close_button->setText(tr("Schließen"));
+    close_button->setAccessibleName(tr("Suche schließen"));
     case_box->setText(tr("Groß-/Kleinschreibung"));
     result_label->clear();
 }

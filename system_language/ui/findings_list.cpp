@@ -1,5 +1,7 @@
 #include "findings_list.h"
 
+#include "legible_colour.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QTreeWidget>
@@ -33,6 +35,7 @@ void findings_list::show_findings(const QVector<system_finding>& findings)
 void findings_list::show_texts()
 {
     setWindowTitle(tr("Prüfergebnis"));
+    rows->setAccessibleName(windowTitle());
     rows->setHeaderLabels({tr("Art"), tr("Zeile"), tr("Spalte"), tr("Meldung")});
     rows->clear();
     if (shown.isEmpty()) {
@@ -48,7 +51,9 @@ void findings_list::show_texts()
                                          QString::number(finding.line),
                                          QString::number(finding.column),
                                          finding.text});
-        row->setForeground(0, is_error ? QColor(190, 20, 20) : QColor(160, 96, 0));
+        row->setForeground(0,
+                           legible_colour(is_error ? QColor(190, 20, 20) : QColor(160, 96, 0),
+                                          rows->palette().color(QPalette::Base)));
         row->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
     }
