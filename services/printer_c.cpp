@@ -8,6 +8,7 @@
 #include <QMutexLocker>
 #include <QPainter>
 #include <QPixmap>
+#include <QPoint>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
@@ -18,10 +19,12 @@ QTransform fitted_transform(const QRect& page, const QRect& paper, int width, in
 {
     const double scale = std::min(page.width() / static_cast<double>(width),
                                   page.height() / static_cast<double>(height));
+    const QPoint page_centre(paper.x() + page.width() / 2, paper.y() + page.height() / 2);
+    const QPoint picture_centre(width / 2, height / 2);
     QTransform place;
-    place.translate(paper.x() + page.width() / 2, paper.y() + page.height() / 2);
+    place.translate(page_centre.x(), page_centre.y());
     place.scale(scale, scale);
-    place.translate(-(width / 2), -(height / 2));
+    place.translate(-picture_centre.x(), -picture_centre.y());
     return place;
 }
 

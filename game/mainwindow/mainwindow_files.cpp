@@ -127,8 +127,8 @@ void MainWindow::set_standard_keys()
     ui->actionNeue_Datei->setShortcuts(QKeySequence::New);
     ui->actionDatei_oeffnen->setShortcuts(QKeySequence::Open);
     ui->actionOptionen->setShortcuts(
-        {QKeySequence(Qt::CTRL | Qt::Key_Comma), QKeySequence(QKeySequence::Preferences)});
-    ui->actionBeenden->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q)});
+        {QKeySequence(QStringLiteral("Ctrl+,")), QKeySequence(QKeySequence::Preferences)});
+    ui->actionBeenden->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 
 /// What the mouse does on table, wheel and panels.
