@@ -178,12 +178,7 @@ void tst_statistic_in_a_game::a_count_on_its_way_does_not_outlive_a_reset()
 {
     const desktop_bench bench;
     emit bench.window->update_statistic_data(property_of(17), true);
-    QObject last_in_line;
-    last_in_line.moveToThread(bench.child<QThread>("statistic_thread"));
-    QMetaObject::invokeMethod(
-        &last_in_line,
-        [&last_in_line, here = QThread::currentThread()] { last_in_line.moveToThread(here); },
-        Qt::BlockingQueuedConnection);
+    bench.wait_for_count();
     bench.table().set_credit(general_player::PLAYER_1, 0);
     QVERIFY(QMetaObject::invokeMethod(
         bench.window.get(), "initializes_base_parameter", Qt::DirectConnection));
