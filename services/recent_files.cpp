@@ -75,10 +75,11 @@ QStringList recent_files::files(kind of) const
 
 void recent_files::fill(QMenu& menu, kind of)
 {
-    connect(&menu, &QMenu::aboutToShow, this, [this, &menu, of] { show_entries(menu, of); });
-    if (auto* above = qobject_cast<QMenu*>(menu.parentWidget())) {
-        connect(above, &QMenu::aboutToShow, this, [this, &menu, of] { show_entries(menu, of); });
-    }
+    // The menu above shows whether there is anything in this one.
+    auto* const above = qobject_cast<QMenu*>(menu.parentWidget());
+    connect(above ? above : &menu, &QMenu::aboutToShow, this, [this, &menu, of] {
+        show_entries(menu, of);
+    });
     show_entries(menu, of);
 }
 

@@ -61,7 +61,7 @@ QStringList entries_of(const desktop_bench& bench, const char* menu)
 {
     QStringList texts;
     auto* const shown = bench.child<QMenu>(menu);
-    emit shown->aboutToShow();
+    emit qobject_cast<QMenu*>(shown->parentWidget())->aboutToShow();
     const auto actions = shown->actions();
     for (const QAction* action : actions)
         texts.append(action->text());

@@ -24,7 +24,7 @@ private slots:
     void a_stop_empties_charts_and_counter();
     void a_count_on_its_way_does_not_outlive_a_reset();
     void the_axis_never_shrinks_until_a_reset();
-    void the_charts_follow_scale_and_language();
+    void the_charts_follow_the_scale();
     void the_double_zero_has_its_text();
     void the_panel_counts_coups_without_hand_changes();
     void every_window_opens_and_closes_data();
@@ -203,7 +203,7 @@ void tst_statistic_in_a_game::the_axis_never_shrinks_until_a_reset()
     QCOMPARE(upper_of(hot(bench)), 11.0); // one hit and a margin of 10
 }
 
-void tst_statistic_in_a_game::the_charts_follow_scale_and_language()
+void tst_statistic_in_a_game::the_charts_follow_the_scale()
 {
     const desktop_bench bench({early_charts});
     const QRect full = hot(bench).geometry();
